@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# Sets Brisko up on this machine, builds it and runs every test.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/setup.sh
+cd build
+QT_QPA_PLATFORM=offscreen ctest --output-on-failure --parallel 2 --timeout 300

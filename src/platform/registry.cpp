@@ -1,0 +1,20 @@
+#include "platform/registry.h"
+
+#include "platform/settingsstore.h"
+
+namespace Utility {
+
+QString RegGetString(const QString &valueName)
+{
+    const QVariant value = SettingsStore::read(valueName);
+    if (value.typeId() != QMetaType::QString)
+        return {};
+    return value.toString().trimmed();
+}
+
+void RegSetString(const QString &valueName, const QString &value)
+{
+    SettingsStore::write(valueName, value);
+}
+
+} // namespace Utility

@@ -1,0 +1,117 @@
+#include "receipts/receipt.h"
+
+#include "app/briskoerror.h"
+#include "app/runtimeformat.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString kReceiptListColumns = u" R.*, P.payeeName, S.statusName FROM (tblReceipt AS R "
+                                    "LEFT JOIN tblPayee AS P ON P.payeeID = R.payeeID) "
+                                    "LEFT JOIN tblStatus AS S ON S.statusID = R.status "_s;
+
+// The WHERE part of the receipt list: each condition after the first is
+// joined with " AND ". With no condition at all nothing follows "WHERE ".
+class Conditions {
+public:
+    void add(const QString &condition, const db::Param &value) {
+        if (m_any)
+            m_sql += u" AND "_s;
+        m_sql += condition;
+        m_params.append(value);
+        m_any = true;
+    }
+
+    const QString &sql() const { return m_sql; }
+    const db::Params &params() const { return m_params; }
+
+private:
+    QString m_sql;
+    db::Params m_params;
+    bool m_any = false;
+};
+
+// The user's short date text as the stored text of that day at midnight, so
+// that a receipt later than midnight on the end date falls outside.
+QDate listDate(const QString &shortDate) {
+    const QDate day = Runtime::parseShortDate(shortDate);
+    if (!day.isValid())
+        raiseTypeMismatch();
+    return day;
+}
+
+QString containing(const QString &term) {
+    return u"%"_s + term + u"%"_s;
+}
+
+void addCustomFieldTerms(Conditions &where, const Receipt &terms) {
+    const QString *fields[] = {&terms.customField1, &terms.customField2, &terms.customField3,
+                               &terms.customField4, &terms.customField5, &terms.customField6};
+    for (int index = 0; index < 6; ++index) {
+        if (!fields[index]->isEmpty())
+            where.add(u"R.customField%1 LIKE ? "_s.arg(index + 1), containing(*fields[index]));
+    }
+}
+
+} // namespace
+
+// An empty filter is no filter. Search terms for the custom fields travel in
+// this object's own customField1 to customField6.
+db::Snapshot Receipt::GetReceipts(const QString &startDate, const QString &endDate,
+                                  qint16 sortOrder, qint16 maxRows, const QString &payeeName,
+                                  const QString &receiptNumber, bool useCustomFields,
+                                  bool includeOpening) {
+    return reraiseWithPrefix(u"Receipt.getReceipts:  "_s, [&] {
+        Conditions where;
+        if (!startDate.isEmpty())
+            where.add(u"R.receiptDate >= ? "_s, listDate(startDate));
+        if (!endDate.isEmpty())
+            where.add(u"R.receiptDate <= ? "_s, listDate(endDate));
+        if (!payeeName.isEmpty())
+            where.add(u"P.payeeName LIKE ? "_s, containing(payeeName));
+        if (!receiptNumber.isEmpty())
+            where.add(u"R.receiptNumber = ? "_s, receiptNumber);
+        if (useCustomFields)
+            addCustomFieldTerms(where, *this);
+        if (!includeOpening)
+            where.add(u"R.receiptType <> ? "_s, int(OpeningBalance));
+
+        QString sql = u"SELECT "_s + kReceiptListColumns + u"WHERE "_s + where.sql();
+        sql += sortOrder == 1 ? u"ORDER BY R.receiptNumber DESC"_s
+                              : u"ORDER BY R.receiptDate, R.receiptNumber"_s;
+        db::Params params = where.params();
+        if (maxRows > 0) {
+            sql += u" LIMIT ?"_s;
+            params.append(int(maxRows));
+        }
+        return db::select(sql, params);
+    });
+}
+
+qint32 Receipt::GetReceiptCount() {
+    return reraiseWithPrefix(u"Receipt.getReceipts:  "_s, [] {
+        const std::optional<db::Row> row =
+            db::readFirst(u"SELECT COUNT(receiptID) as totalCreated FROM tblReceipt"_s);
+        return row ? row->int32(u"totalCreated"_s) : 0;
+    });
+}
+
+// Opening-balance records are part of a customer's own list.
+db::Snapshot Receipt::GetCustomerReceipts(qint32 payeeID) {
+    return reraiseWithPrefix(u"Receipt.GetCustomerReceipts:  "_s, [payeeID] {
+        return db::select(u"SELECT"_s + kReceiptListColumns +
+                              u"WHERE R.payeeID = ? ORDER BY R.receiptDate, R.receiptNumber"_s,
+                          {payeeID});
+    });
+}
+
+// A line whose product was deleted still comes, with a Null productSKU.
+db::Snapshot Receipt::getReceiptProducts(qint32 receiptID) {
+    return reraiseWithPrefix(u"Receipt.getReceiptProducts:  "_s, [receiptID] {
+        return db::select(u"SELECT RP.*, P.productSKU FROM tblReceipt_Product AS RP "
+                          "LEFT JOIN tblProduct AS P ON P.productID = RP.productID "
+                          "WHERE RP.receiptID = ?"_s,
+                          {receiptID});
+    });
+}

@@ -1,0 +1,235 @@
+#include "app/company.h"
+#include "app/database.h"
+#include "app/session.h"
+#include "app/startup.h"
+#include "platform/paths.h"
+#include "platform/registry.h"
+#include "support/briskotest.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::Literals::StringLiterals;
+using Icon = Dialogs::Icon;
+using Answer = Dialogs::Answer;
+using Kind = ScriptedDialogs::Shown::Kind;
+
+namespace {
+
+class InitialiseTest : public BriskoTest {
+protected:
+    void SetUp() override
+    {
+        BriskoTest::SetUp();
+        Utility::RegSetString(u"lastDB"_s, databasePath());
+    }
+
+    void numberThisYear(int lastNumberUsed = 0)
+    {
+        db::execute(u"INSERT INTO tblReceiptNumbering (receiptYear, lastNumberUsed) VALUES (?, ?)"_s,
+                    {session().year2, lastNumberUsed});
+    }
+
+    void setResetNumberEOY(int value)
+    {
+        db::execute(u"UPDATE tblSystem SET resetNumberEOY = ?"_s, {value});
+    }
+
+    // The last number stored for this year, or -1 when it has no row.
+    int storedLastNumber()
+    {
+        const auto row = db::readFirst(
+            u"SELECT lastNumberUsed FROM tblReceiptNumbering WHERE receiptYear = ?"_s,
+            {session().year2});
+        return row ? row->int32(u"lastNumberUsed"_s) : -1;
+    }
+};
+
+TEST_F(InitialiseTest, TheFirstStartOnAnAccountPutsANewDatabaseInPlace)
+{
+    Utility::RegSetString(u"lastDB"_s, {});
+    ASSERT_TRUE(modMain::Initialise());
+    const QString delivered = Paths::defaultDatabasePath();
+    EXPECT_TRUE(QFileInfo::exists(delivered));
+    EXPECT_EQ(session().dbPath, delivered);
+    EXPECT_EQ(session().connectionString, delivered);
+    EXPECT_TRUE(boxes().shown.isEmpty()); // not even the year question
+    EXPECT_TRUE(session().firstRunFlag);
+    EXPECT_EQ(storedLastNumber(), 0);
+}
+
+TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly)
+{
+    numberThisYear();
+    Utility::RegSetString(u"useSharedFile"_s, u"True"_s);
+    Utility::RegSetString(u"shareFileLocation"_s, u"/nowhere/bdesk.db"_s);
+    ASSERT_TRUE(modMain::Initialise());
+    ASSERT_EQ(boxes().shown.size(), 1);
+    EXPECT_EQ(boxes().shown[0].text,
+              u"Share file /nowhere/bdesk.db could not be found.  Using local database instead.  "
+              u"Go to File->Multi-user settings and check your share file settings."_s);
+    EXPECT_EQ(boxes().shown[0].title, u"Share File Doesn't Exist"_s);
+    EXPECT_EQ(boxes().shown[0].icon, Icon::Critical);
+    EXPECT_FALSE(session().useSharedFile);
+    EXPECT_EQ(session().shareFileLocation, u""_s);
+    EXPECT_EQ(session().dbPath, databasePath());
+    EXPECT_EQ(Utility::RegGetString(u"useSharedFile"_s), u"True"_s);
+}
+
+TEST_F(InitialiseTest, AnExistingShareFileIsTheDatabase)
+{
+    numberThisYear();
+    Utility::RegSetString(u"lastDB"_s, u"/elsewhere/local.db"_s);
+    Utility::RegSetString(u"useSharedFile"_s, u" true "_s);
+    Utility::RegSetString(u"shareFileLocation"_s, databasePath());
+    ASSERT_TRUE(modMain::Initialise());
+    EXPECT_TRUE(boxes().shown.isEmpty());
+    EXPECT_TRUE(session().useSharedFile);
+    EXPECT_EQ(session().dbPath, databasePath());
+}
+
+TEST_F(InitialiseTest, AShareSettingThatIsNoYesOrNoQuietlyMeansLocal)
+{
+    numberThisYear();
+    Utility::RegSetString(u"useSharedFile"_s, u"perhaps"_s);
+    Utility::RegSetString(u"shareFileLocation"_s, databasePath());
+    ASSERT_TRUE(modMain::Initialise());
+    EXPECT_TRUE(boxes().shown.isEmpty());
+    EXPECT_FALSE(session().useSharedFile);
+    EXPECT_EQ(session().shareFileLocation, u""_s);
+}
+
+TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt)
+{
+    numberThisYear();
+    const QString deleted = tempPath(u"deleted.db"_s);
+    Utility::RegSetString(u"lastDB"_s, deleted);
+    boxes().texts.enqueue(databasePath());
+    ASSERT_TRUE(modMain::Initialise());
+    ASSERT_EQ(boxes().shown.size(), 2);
+    EXPECT_EQ(boxes().shown[0].text,
+              u"Database "_s + deleted + u" does not exist.  Please select a database to open."_s);
+    EXPECT_EQ(boxes().shown[0].title, u"Missing / Invalid Database"_s);
+    EXPECT_EQ(boxes().shown[0].icon, Icon::Exclamation);
+    EXPECT_EQ(boxes().shown[1].kind, Kind::OpenFile);
+    EXPECT_EQ(boxes().shown[1].request.title, u"Open Database"_s);
+    EXPECT_EQ(boxes().shown[1].request.folder, deleted);
+    EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), databasePath());
+    EXPECT_EQ(session().dbPath, databasePath());
+}
+
+TEST_F(InitialiseTest, CancellingTheChooserEndsSilently)
+{
+    Utility::RegSetString(u"lastDB"_s, tempPath(u"deleted.db"_s));
+    EXPECT_FALSE(modMain::Initialise());
+    EXPECT_EQ(boxes().shown.size(), 2); // the box and the chooser, nothing after
+    EXPECT_EQ(process().endProgramCalls, 1);
+    EXPECT_TRUE(session().shuttingDown);
+    EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), tempPath(u"deleted.db"_s));
+}
+
+TEST_F(InitialiseTest, AFileThatIsNoDatabaseEndsInTheStartupErrorBox)
+{
+    QFile junk(tempPath(u"junk.db"_s));
+    ASSERT_TRUE(junk.open(QIODevice::WriteOnly));
+    junk.write(QByteArray(4096, 'x'));
+    junk.close();
+    Utility::RegSetString(u"lastDB"_s, junk.fileName());
+    EXPECT_FALSE(modMain::Initialise());
+    ASSERT_EQ(boxes().shown.size(), 1);
+    EXPECT_TRUE(boxes().shown[0].text.startsWith(
+        u"An error occured during the intilization:  modMain.loadCompanyInfo:  "_s));
+    EXPECT_EQ(boxes().shown[0].title, u"Startup Error"_s);
+    EXPECT_EQ(process().endProgramCalls, 1);
+}
+
+TEST_F(InitialiseTest, TheWizardIsDueUntilFirstRunHoldsAValue)
+{
+    numberThisYear();
+    ASSERT_TRUE(modMain::Initialise());
+    EXPECT_TRUE(session().firstRunFlag);
+    Utility::RegSetString(u"firstRun"_s, u"no"_s);
+    ASSERT_TRUE(modMain::Initialise());
+    EXPECT_FALSE(session().firstRunFlag);
+}
+
+class YearChangeTest : public InitialiseTest {
+protected:
+    void SetUp() override
+    {
+        InitialiseTest::SetUp();
+        db::execute(u"INSERT INTO tblReceiptNumbering (receiptYear, lastNumberUsed) VALUES ('12', 41)"_s);
+    }
+
+    QString yearChangeText() const
+    {
+        return u"The program has detected a change in the receipt year.\nand will create a new "
+               u"year for "_s +
+               session().year2 + u".  Click OK to proceed."_s;
+    }
+};
+
+TEST_F(YearChangeTest, WithoutResetNumberingRunsOnAfterOneQuestion)
+{
+    setResetNumberEOY(0);
+    ASSERT_TRUE(modMain::Initialise());
+    ASSERT_EQ(boxes().shown.size(), 1);
+    EXPECT_EQ(boxes().shown[0].text, yearChangeText());
+    EXPECT_EQ(boxes().shown[0].title, u"Year Change"_s);
+    EXPECT_EQ(boxes().shown[0].icon, Icon::Information);
+    EXPECT_EQ(boxes().shown[0].buttons, Dialogs::Buttons::OkCancel);
+    EXPECT_EQ(storedLastNumber(), 41); // the next receipt gets 42
+}
+
+TEST_F(YearChangeTest, CancelEndsTheProgramWithoutAYear)
+{
+    boxes().answers.enqueue(Answer::Cancel);
+    EXPECT_FALSE(modMain::Initialise());
+    EXPECT_EQ(boxes().messages().last(),
+              u"This program can not continue without creating the new year."_s);
+    EXPECT_EQ(boxes().titles().last(), u"Program Failure"_s);
+    EXPECT_EQ(process().endProgramCalls, 1);
+    EXPECT_EQ(storedLastNumber(), -1);
+}
+
+TEST_F(YearChangeTest, ATypedStartNumberIsCheckedUntilItIsAccepted)
+{
+    boxes().texts << u"0"_s << u"12a"_s << u"7"_s;
+    ASSERT_TRUE(modMain::Initialise());
+    EXPECT_EQ(boxes().titles(),
+              QStringList({u"Year Change"_s, u"Starting Number"_s, u"Invalid Starting Number"_s,
+                           u"Starting Number"_s, u"Invalid Starting Number"_s,
+                           u"Starting Number"_s}));
+    EXPECT_EQ(boxes().shown[1].text,
+              u"Entering the starting number for the receipt.  Must be greater or equal to 1."_s);
+    EXPECT_EQ(boxes().shown[2].text, u"Starting number must be greater than zero"_s);
+    EXPECT_EQ(boxes().shown[4].text, u"Starting number can only contain digits"_s);
+    EXPECT_EQ(boxes().shown[4].icon, Icon::Exclamation);
+    EXPECT_EQ(storedLastNumber(), 6);
+}
+
+TEST_F(YearChangeTest, NotAbortingAfterCancelCostsOneMoreBox)
+{
+    boxes().answers << Answer::Ok << Answer::No;
+    boxes().texts << u""_s << u"5"_s;
+    ASSERT_TRUE(modMain::Initialise());
+    EXPECT_EQ(boxes().titles(),
+              QStringList({u"Year Change"_s, u"Starting Number"_s, u"Abort New Year"_s,
+                           u"Invalid Starting Number"_s, u"Starting Number"_s}));
+    EXPECT_EQ(boxes().shown[2].text, u"Abort this process?"_s);
+    EXPECT_EQ(boxes().shown[2].icon, Icon::Question);
+    EXPECT_EQ(storedLastNumber(), 4);
+}
+
+TEST_F(YearChangeTest, AbortingEndsTheProgram)
+{
+    boxes().answers << Answer::Ok << Answer::Yes;
+    EXPECT_FALSE(modMain::Initialise());
+    EXPECT_EQ(boxes().messages().last(),
+              u"User aborted.  This program can not continue without creating the new year."_s);
+    EXPECT_EQ(boxes().shown.last().icon, Icon::Critical);
+    EXPECT_EQ(process().endProgramCalls, 1);
+    EXPECT_EQ(storedLastNumber(), -1);
+}
+
+} // namespace

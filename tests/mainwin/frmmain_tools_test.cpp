@@ -1,0 +1,261 @@
+// The main window's load, its tools and their rights, opening another
+// database, and the way out.
+
+#include "mainwintestbase.h"
+
+#include "admin/frmlogin.h"
+#include "admin/systemuser.h"
+#include "app/company.h"
+#include "app/schema.h"
+#include "app/session.h"
+#include "mainwin/frmabout.h"
+#include "platform/registry.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
+
+using namespace mainwintest;
+
+namespace {
+
+const QStringList kReportTools = {u"ID_ReceiptLedger"_s, u"ID_RptService"_s,
+                                  u"ID_ServiceLedgerDetail"_s, u"ID_ProductLedgerDetail"_s};
+
+std::shared_ptr<SystemUser> userWith(qint16 canVoid, qint16 isAdmin, qint16 canRunReports) {
+    auto user = std::make_shared<SystemUser>();
+    user->userID = 7;
+    user->username = u"ann"_s;
+    user->canVoid = canVoid;
+    user->isAdmin = isAdmin;
+    user->canRunReports = canRunReports;
+    return user;
+}
+
+// The visible texts of a menu, "-" for a separator.
+QStringList entriesOf(const QWidget *holder) {
+    QStringList texts;
+    for (const QAction *action : holder->actions())
+        texts.append(action->isSeparator() ? u"-"_s : action->text());
+    return texts;
+}
+
+class MainToolsTest : public MainWindowTest {
+protected:
+    bool enabled(const QString &id) const { return window->tool(id)->isEnabled(); }
+    QString panel(const char *name) const {
+        return window->findChild<QLabel *>(QString::fromLatin1(name))->text();
+    }
+};
+
+TEST_F(MainToolsTest, LoadWithoutLoginsGivesTheAnonymousUserEveryRight) {
+    company().companyName = u"Corner Shop"_s;
+    addReceipt(u"0001"_s, todayAtMidnight(), addPayee(u"Bo"_s));
+    window->show();
+
+    EXPECT_TRUE(window->load());
+
+    EXPECT_EQ(window->windowTitle(), u"Brisko - Corner Shop"_s);
+    EXPECT_TRUE(session().mainStarted);
+    EXPECT_EQ(list(*window, u"lstReceipts"_s)->topLevelItemCount(), 1);
+    const auto &user = session().currentUser;
+    ASSERT_TRUE(user);
+    EXPECT_TRUE(user->username.isEmpty());
+    EXPECT_EQ(user->userID, 0);
+    for (const qint16 right :
+         {user->canDelete, user->canEdit, user->canVoid, user->isAdmin, user->canRunReports})
+        EXPECT_EQ(right, 1);
+    for (const QString &id :
+         kReportTools + QStringList{u"ID_UpdateReceiptStatus"_s, u"ID_Maintenance"_s,
+                                    u"ID_InventorySoldDetail"_s})
+        EXPECT_TRUE(enabled(id)) << qPrintable(id);
+    EXPECT_FALSE(process().ended());
+}
+
+TEST_F(MainToolsTest, EachMissingRightDisablesItsTools) {
+    session().currentUser = userWith(0, 1, 1);
+    window->applyRights();
+    EXPECT_FALSE(enabled(u"ID_UpdateReceiptStatus"_s));
+    EXPECT_TRUE(enabled(u"ID_Maintenance"_s));
+
+    session().currentUser = userWith(1, 0, 1);
+    window->applyRights();
+    EXPECT_TRUE(enabled(u"ID_UpdateReceiptStatus"_s));
+    EXPECT_FALSE(enabled(u"ID_Maintenance"_s));
+    for (const QString &id : kReportTools)
+        EXPECT_TRUE(enabled(id)) << qPrintable(id);
+
+    session().currentUser = userWith(1, 1, 0);
+    window->applyRights();
+    for (const QString &id : kReportTools)
+        EXPECT_FALSE(enabled(id)) << qPrintable(id);
+    EXPECT_TRUE(enabled(u"ID_InventorySoldDetail"_s)) << "stays open to everyone";
+
+    // The reports right only ever takes the tools away.
+    session().currentUser = userWith(1, 1, 1);
+    window->applyRights();
+    for (const QString &id : kReportTools)
+        EXPECT_FALSE(enabled(id)) << qPrintable(id);
+}
+
+TEST_F(MainToolsTest, RestrictedAccessAppliesTheRightsOfWhoLoggedIn) {
+    company().restrictAccess = true;
+    window->show();
+    bool loaded = false;
+    driveModal<frmLogin>([&] { loaded = window->load(); },
+                         [](frmLogin &login) {
+                             session().currentUser = userWith(0, 0, 1);
+                             login.accept();
+                         });
+    EXPECT_TRUE(loaded);
+    EXPECT_EQ(session().currentUser->username, u"ann"_s);
+    EXPECT_FALSE(enabled(u"ID_UpdateReceiptStatus"_s));
+    EXPECT_FALSE(enabled(u"ID_Maintenance"_s));
+    EXPECT_FALSE(process().ended());
+}
+
+TEST_F(MainToolsTest, ClosingTheLoginEndsTheProcessAtOnce) {
+    company().restrictAccess = true;
+    window->show();
+    bool loaded = true;
+    driveModal<frmLogin>([&] { loaded = window->load(); }, [](frmLogin &login) { login.reject(); });
+    EXPECT_FALSE(loaded);
+    EXPECT_EQ(process().endProcessCalls, 1);
+    EXPECT_EQ(process().endProgramCalls, 0) << "not through EndProgram";
+    EXPECT_FALSE(session().currentUser);
+}
+
+TEST_F(MainToolsTest, MenusHoldOnlyToolsWithACommand) {
+    const auto *menuBar = window->findChild<QMenuBar *>(u"ToolBar2"_s);
+    ASSERT_TRUE(menuBar);
+    EXPECT_EQ(entriesOf(menuBar), (QStringList{u"&File"_s, u"&Help"_s}));
+    EXPECT_EQ(entriesOf(window->tool(u"ID_File"_s)->menu()),
+              (QStringList{u"Open Database"_s, u"-"_s, u"E&xit"_s}));
+    EXPECT_EQ(entriesOf(window->tool(u"ID_Help"_s)->menu()),
+              (QStringList{u"What's New?"_s, u"-"_s, u"About Brisko"_s}));
+    EXPECT_EQ(window->tool(u"ID_Exit"_s)->shortcut(), QKeySequence(u"Ctrl+Q"_s));
+    const auto *iconBar = window->findChild<QToolBar *>(u"ToolBar1"_s);
+    ASSERT_TRUE(iconBar);
+    EXPECT_TRUE(iconBar->isHidden()) << "nothing on it has a command yet";
+
+    // Every tool is in the pool under its id, menus included.
+    for (const QString &id :
+         {u"ID_Multi-UserSettings"_s, u"ID_Maintenance"_s, u"ID_ServicesProvided"_s,
+          u"ID_ReprintReceipt"_s, u"ID_ReportManager"_s, u"ID_Options"_s}) {
+        ASSERT_TRUE(window->tool(id)) << qPrintable(id);
+        EXPECT_EQ(window->tool(id)->objectName(), id);
+    }
+    EXPECT_EQ(window->tool(u"ID_Multi-UserSettings"_s)->text(), u"Multi-User Settings"_s);
+
+    window->toolClick(u"ID_Options"_s);
+    EXPECT_TRUE(boxes().shown.isEmpty());
+    EXPECT_FALSE(process().ended());
+}
+
+TEST_F(MainToolsTest, ExitAndClosingTheWindowEndTheProgram) {
+    window->tool(u"ID_Exit"_s)->trigger();
+    EXPECT_EQ(process().endProgramCalls, 1);
+    EXPECT_TRUE(session().shuttingDown);
+
+    window->show();
+    window->close();
+    EXPECT_EQ(process().endProgramCalls, 2);
+    EXPECT_EQ(process().endProcessCalls, 0);
+    EXPECT_TRUE(boxes().shown.isEmpty()) << "no question on the way out";
+}
+
+TEST_F(MainToolsTest, WhatsNewOpensThePageOfThisRelease) {
+    window->tool(u"ID_WhatsNew"_s)->trigger();
+    EXPECT_EQ(process().opened,
+              QList<QUrl>{QUrl(u"https://brisko.example/whats-new-in-brisko-4-2-5"_s)});
+}
+
+TEST_F(MainToolsTest, AboutShowsTheNameAndVersion) {
+    QString name;
+    QString version;
+    QString title;
+    driveModal<frmAbout>([&] { window->toolClick(u"ID_AboutBrisko"_s); },
+                         [&](frmAbout &about) {
+                             name = about.findChild<QLabel *>(u"lblName"_s)->text();
+                             version = about.findChild<QLabel *>(u"lblVersion"_s)->text();
+                             title = about.windowTitle();
+                             about.accept();
+                         });
+    EXPECT_EQ(name, u"Brisko"_s);
+    EXPECT_EQ(version, u"Version 4.2.5"_s);
+    EXPECT_EQ(title, u"About Brisko"_s);
+}
+
+TEST_F(MainToolsTest, StatusBarNamesTheDatabaseAndMarksTheShareFile) {
+    EXPECT_EQ(panel("pnlDatabase"), databasePath());
+    EXPECT_FALSE(panel("pnlDate").isEmpty());
+    EXPECT_FALSE(panel("pnlTime").isEmpty());
+
+    session().useSharedFile = true;
+    TestMainWindow shared;
+    EXPECT_EQ(shared.findChild<QLabel *>(u"pnlDatabase"_s)->text(),
+              u"[SHARED] "_s + databasePath());
+}
+
+TEST_F(MainToolsTest, OpenDatabaseIsRefusedInMultiUserMode) {
+    session().useSharedFile = true;
+    window->toolClick(u"ID_OpenDatabase"_s);
+    ASSERT_EQ(boxes().shown.size(), 1);
+    EXPECT_EQ(boxes().shown[0].text,
+              u"You cannot open a stand-alone database while Multi-User mode is enabled.  "
+              "Click File, Multi-User Settings to change your settings."_s);
+    EXPECT_EQ(boxes().shown[0].title, u"Multi-User Mode"_s);
+    EXPECT_EQ(boxes().shown[0].icon, Dialogs::Icon::Exclamation);
+    EXPECT_EQ(session().dbPath, databasePath());
+}
+
+TEST_F(MainToolsTest, OpenDatabaseSwitchesToTheChosenFile) {
+    company().companyName = u"Old Shop"_s;
+    window->show();
+    window->load();
+    const QString second = tempPath(u"second.db"_s);
+    Schema::createDatabase(second);
+    {
+        db::Transaction onSecond(second);
+        db::execute(u"UPDATE tblSystem SET companyName = ?"_s, {u"New Shop"_s});
+        addReceipt(u"S-1"_s, todayAtMidnight(), addPayee(u"Cy"_s), money("12.5"));
+        onSecond.commit();
+    }
+    session().currentUser = userWith(1, 1, 0);
+    window->applyRights();
+    boxes().texts.enqueue(second);
+
+    window->toolClick(u"ID_OpenDatabase"_s);
+
+    EXPECT_EQ(session().dbPath, second);
+    EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), second);
+    EXPECT_EQ(company().companyName, u"New Shop"_s);
+    EXPECT_EQ(window->windowTitle(), u"Brisko - Old Shop"_s) << "the caption keeps the old name";
+    EXPECT_EQ(panel("pnlDatabase"), second);
+    const QTreeWidget *today = list(*window, u"lstReceipts"_s);
+    ASSERT_EQ(today->topLevelItemCount(), 1);
+    EXPECT_EQ(rowTexts(today, 0)[1], u"S-1"_s);
+    EXPECT_EQ(rowTexts(today, 0)[4], u"12.50"_s);
+    ASSERT_EQ(boxes().shown.size(), 2) << "the chooser, then the box";
+    EXPECT_EQ(boxes().shown[1].text, u"Database has been changed"_s);
+    EXPECT_EQ(boxes().shown[1].title, u"Success"_s);
+    EXPECT_EQ(boxes().shown[1].icon, Dialogs::Icon::Information);
+    // A new anonymous user, without the reports right; the report tools keep
+    // the state they had.
+    EXPECT_TRUE(session().currentUser->username.isEmpty());
+    EXPECT_EQ(session().currentUser->canRunReports, 0);
+    EXPECT_TRUE(enabled(u"ID_UpdateReceiptStatus"_s));
+    EXPECT_FALSE(enabled(u"ID_ReceiptLedger"_s));
+}
+
+TEST_F(MainToolsTest, CancelledOpenDatabaseChangesNothing) {
+    window->DoOpenDatabase();
+    EXPECT_EQ(session().dbPath, databasePath());
+    EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), QString());
+    ASSERT_EQ(boxes().shown.size(), 1) << "only the chooser";
+    EXPECT_EQ(boxes().shown[0].kind, ScriptedDialogs::Shown::Kind::OpenFile);
+}
+
+} // namespace
