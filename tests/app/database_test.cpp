@@ -116,7 +116,7 @@ TEST_F(DatabaseTest, TransactionCommitsTogetherOrNotAtAll)
 
 TEST_F(DatabaseTest, TheFileKeepsTheClassicJournalForSharing)
 {
-    EXPECT_EQ(db::readFirst(u"PRAGMA journal_mode"_s)->value(0).toString(), u"delete"_s);
+    EXPECT_EQ(db::readFirst(u"PRAGMA journal_mode"_s)->text(u"journal_mode"_s), u"delete"_s);
 }
 
 } // namespace
