@@ -22,8 +22,7 @@ constexpr int kCustomers = 5000;
 constexpr int kReceipts = 100000; // about ten years of a busy counter
 constexpr int kRuns = 15;
 
-void fill()
-{
+void fill() {
     db::Transaction transaction;
     for (int i = 0; i < kCustomers; ++i) {
         db::execute(u"INSERT INTO tblPayee (payeeName) VALUES (?)"_s,
@@ -39,8 +38,7 @@ void fill()
     transaction.commit();
 }
 
-double medianMilliseconds(const std::function<void()> &work)
-{
+double medianMilliseconds(const std::function<void()> &work) {
     std::vector<double> times;
     for (int run = 0; run < kRuns; ++run) {
         QElapsedTimer timer;
@@ -52,15 +50,13 @@ double medianMilliseconds(const std::function<void()> &work)
     return times[times.size() / 2];
 }
 
-void report(const char *what, double milliseconds)
-{
+void report(const char *what, double milliseconds) {
     std::printf("%-44s %8.2f ms\n", what, milliseconds);
 }
 
 } // namespace
 
-int main(int argc, char **argv)
-{
+int main(int argc, char **argv) {
     QCoreApplication application(argc, argv);
     QTemporaryDir folder;
     const QString path = folder.filePath(u"bench.db"_s);

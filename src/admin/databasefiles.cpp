@@ -7,8 +7,7 @@
 
 namespace modMain {
 
-QString openDatabaseDialog()
-{
+QString openDatabaseDialog() {
     Dialogs::FileRequest request;
     request.title = QCoreApplication::translate("openDatabaseDialog", "Open Database");
     request.folder = session().dbPath;

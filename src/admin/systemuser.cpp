@@ -4,23 +4,13 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-namespace {
-
-// A null QString would be bound as NULL; an account without a password
-// stores the empty text, so that it can be matched at login.
-QString storedText(const QString &text) {
-    return text.isNull() ? u""_s : text;
-}
-
-} // namespace
-
 bool SystemUser::GetUser(const QString &username, const QString &password, qint32 userID) {
     return reraiseWithPrefix(u"User.GetUser:  "_s, [&] {
         const std::optional<db::Row> row =
             userID != 0
                 ? db::readFirst(u"SELECT * FROM tblUser WHERE userID = ?"_s, {userID})
                 : db::readFirst(u"SELECT * FROM tblUser WHERE username = ? AND password = ?"_s,
-                                {storedText(username), storedText(password)});
+                                {username, password});
         if (!row)
             return false;
         readFrom(*row);
@@ -68,8 +58,8 @@ void SystemUser::insertUser() {
         u"INSERT INTO tblUser"
         "(username, password, canEdit, canDelete, canVoid, status, isAdmin, canRunReports) "
         "VALUES(?, ?, ?, ?, ?, ?, ?, ?) RETURNING userID"_s,
-        {storedText(username), storedText(password), int(canEdit), int(canDelete), int(canVoid),
-         int(status), int(isAdmin), int(canRunReports)});
+        {username, password, int(canEdit), int(canDelete), int(canVoid), int(status), int(isAdmin),
+         int(canRunReports)});
     userID = static_cast<qint32>(key);
 }
 
@@ -77,7 +67,7 @@ void SystemUser::updateUser() {
     // An empty password means the account keeps the one it has.
     const bool withPassword = !password.isEmpty();
     QString sql = u"UPDATE tblUser SET username = ?, "_s;
-    db::Params params{storedText(username)};
+    db::Params params{username};
     if (withPassword) {
         sql += u"password = ?, "_s;
         params.append(password);

@@ -40,9 +40,7 @@ constexpr int DatabaseError = -2147467259;
 
 // Runs `body`; a BriskoError out of it is raised again with `prefix` in
 // front of its description. Every class method states its prefix this way.
-template <typename Body>
-decltype(auto) reraiseWithPrefix(const QString &prefix, Body &&body)
-{
+template <typename Body> decltype(auto) reraiseWithPrefix(const QString &prefix, Body &&body) {
     try {
         return std::forward<Body>(body)();
     } catch (const BriskoError &error) {

@@ -9,8 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // A text column whose Null keeps what the field held before.
-void readKeepingOld(const db::Row &row, const QString &column, QString &field)
-{
+void readKeepingOld(const db::Row &row, const QString &column, QString &field) {
     if (!row.isNull(column))
         field = row.text(column);
 }
@@ -18,24 +17,20 @@ void readKeepingOld(const db::Row &row, const QString &column, QString &field)
 // Three ways of reading a flag, kept apart on purpose: most are yes only at
 // exactly 1, the two "hide" print settings are yes at anything but 0, and the
 // last three only ever switch on while the program runs.
-bool exactlyOne(const db::Row &row, const QString &column)
-{
+bool exactlyOne(const db::Row &row, const QString &column) {
     return row.int32(column) == 1;
 }
 
-bool anyNonZero(const db::Row &row, const QString &column)
-{
+bool anyNonZero(const db::Row &row, const QString &column) {
     return row.int32(column) != 0;
 }
 
-void switchOnAtOne(const db::Row &row, const QString &column, bool &field)
-{
+void switchOnAtOne(const db::Row &row, const QString &column, bool &field) {
     if (row.int32(column) == 1)
         field = true;
 }
 
-void copyRow(const db::Row &row, Company &c)
-{
+void copyRow(const db::Row &row, Company &c) {
     c.companyName = row.text(u"companyName"_s);
     readKeepingOld(row, u"address1"_s, c.address1);
     readKeepingOld(row, u"address2"_s, c.address2);
@@ -70,21 +65,18 @@ void copyRow(const db::Row &row, Company &c)
 
 } // namespace
 
-Company &company()
-{
+Company &company() {
     static Company record;
     return record;
 }
 
-void resetCompany()
-{
+void resetCompany() {
     company() = Company{};
 }
 
 namespace modMain {
 
-bool loadCompanyInfo()
-{
+bool loadCompanyInfo() {
     return reraiseWithPrefix(u"modMain.loadCompanyInfo:  "_s, [] {
         const std::optional<db::Row> row = db::readFirst(u"SELECT * FROM tblSystem "_s);
         if (!row)

@@ -17,8 +17,7 @@ namespace {
 
 constexpr auto kDateFormat = "yyyy-MM-dd HH:mm:ss";
 
-BriskoError toError(const QSqlError &error)
-{
+BriskoError toError(const QSqlError &error) {
     bool numeric = false;
     const int code = error.nativeErrorCode().toInt(&numeric);
     QString text = error.databaseText();
@@ -31,13 +30,12 @@ BriskoError toError(const QSqlError &error)
 class Connection {
 public:
     explicit Connection(const QString &path, bool createIfMissing = false)
-        : m_name(u"brisko-%1"_s.arg(++s_serial))
-    {
+        : m_name(u"brisko-%1"_s.arg(++s_serial)) {
         // SQLite would quietly make an empty file; a missing database is an error.
         if (!createIfMissing && !QFileInfo::exists(path)) {
-            throw BriskoError(RuntimeError::DatabaseError,
-                              QCoreApplication::translate("Database", "Could not find file '%1'.")
-                                  .arg(path));
+            throw BriskoError(
+                RuntimeError::DatabaseError,
+                QCoreApplication::translate("Database", "Could not find file '%1'.").arg(path));
         }
         QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, m_name);
         database.setDatabaseName(path);
@@ -50,8 +48,7 @@ public:
         run(u"PRAGMA synchronous=FULL"_s);
     }
 
-    ~Connection()
-    {
+    ~Connection() {
         {
             QSqlDatabase database = QSqlDatabase::database(m_name, false);
             database.close();
@@ -64,8 +61,7 @@ public:
 
     QSqlDatabase database() const { return QSqlDatabase::database(m_name, false); }
 
-    QSqlQuery run(const QString &sql, const Params &params = {})
-    {
+    QSqlQuery run(const QString &sql, const Params &params = {}) {
         QSqlQuery query(database());
         query.setForwardOnly(true);
         if (!query.prepare(sql))
@@ -86,9 +82,7 @@ private:
 Connection *s_transaction = nullptr;
 
 // Runs `work` on the standing transaction's connection or on one of its own.
-template <typename Work>
-auto withConnection(Work &&work)
-{
+template <typename Work> auto withConnection(Work &&work) {
     if (s_transaction)
         return work(*s_transaction);
     Connection connection(session().connectionString);
@@ -97,78 +91,67 @@ auto withConnection(Work &&work)
 
 } // namespace
 
-Param::Param(const QDateTime &moment) : m_value(dateText(moment)) {}
-Param::Param(const QDate &day) : m_value(dateText(day)) {}
+Param::Param(const QDateTime &moment)
+    : m_value(dateText(moment)) {}
+Param::Param(const QDate &day)
+    : m_value(dateText(day)) {}
 
-QString dateText(const QDateTime &moment)
-{
+QString dateText(const QDateTime &moment) {
     return moment.toString(QString::fromLatin1(kDateFormat));
 }
 
-QString dateText(const QDate &day)
-{
+QString dateText(const QDate &day) {
     return dateText(QDateTime(day, QTime(0, 0)));
 }
 
-bool Row::isNull(const QString &column) const
-{
+bool Row::isNull(const QString &column) const {
     return m_record.isNull(column);
 }
 
-QVariant Row::value(const QString &column) const
-{
+QVariant Row::value(const QString &column) const {
     return m_record.value(column);
 }
 
-static QVariant required(const QSqlRecord &record, const QString &column)
-{
+static QVariant required(const QSqlRecord &record, const QString &column) {
     const QVariant value = record.value(column);
     if (value.isNull())
         raiseInvalidUseOfNull();
     return value;
 }
 
-QString Row::text(const QString &column) const
-{
+QString Row::text(const QString &column) const {
     return required(m_record, column).toString();
 }
 
-qint32 Row::int32(const QString &column) const
-{
+qint32 Row::int32(const QString &column) const {
     return required(m_record, column).toInt();
 }
 
-qint16 Row::int16(const QString &column) const
-{
+qint16 Row::int16(const QString &column) const {
     const qlonglong value = required(m_record, column).toLongLong();
     if (value < std::numeric_limits<qint16>::min() || value > std::numeric_limits<qint16>::max())
         raiseOverflow();
     return static_cast<qint16>(value);
 }
 
-double Row::real(const QString &column) const
-{
+double Row::real(const QString &column) const {
     return required(m_record, column).toDouble();
 }
 
-Currency Row::currency(const QString &column) const
-{
+Currency Row::currency(const QString &column) const {
     return Currency::fromUnits(required(m_record, column).toLongLong());
 }
 
-QDateTime Row::dateTime(const QString &column) const
-{
+QDateTime Row::dateTime(const QString &column) const {
     return QDateTime::fromString(required(m_record, column).toString(),
                                  QString::fromLatin1(kDateFormat));
 }
 
-QString Row::textOr(const QString &column, const QString &fallback) const
-{
+QString Row::textOr(const QString &column, const QString &fallback) const {
     return isNull(column) ? fallback : m_record.value(column).toString();
 }
 
-std::optional<Row> readFirst(const QString &sql, const Params &params)
-{
+std::optional<Row> readFirst(const QString &sql, const Params &params) {
     return withConnection([&](Connection &connection) -> std::optional<Row> {
         QSqlQuery query = connection.run(sql, params);
         if (!query.next())
@@ -177,8 +160,7 @@ std::optional<Row> readFirst(const QString &sql, const Params &params)
     });
 }
 
-Snapshot select(const QString &sql, const Params &params)
-{
+Snapshot select(const QString &sql, const Params &params) {
     return withConnection([&](Connection &connection) {
         QSqlQuery query = connection.run(sql, params);
         QList<Row> rows;
@@ -188,29 +170,28 @@ Snapshot select(const QString &sql, const Params &params)
     });
 }
 
-int execute(const QString &sql, const Params &params)
-{
+int execute(const QString &sql, const Params &params) {
     return withConnection(
         [&](Connection &connection) { return connection.run(sql, params).numRowsAffected(); });
 }
 
-qint64 insertReturningKey(const QString &sql, const Params &params)
-{
+qint64 insertReturningKey(const QString &sql, const Params &params) {
     return withConnection([&](Connection &connection) {
         QSqlQuery query = connection.run(sql, params);
         if (!query.next())
-            throw BriskoError(RuntimeError::DatabaseError,
-                              QCoreApplication::translate("Database", "The new row's key was not returned."));
+            throw BriskoError(
+                RuntimeError::DatabaseError,
+                QCoreApplication::translate("Database", "The new row's key was not returned."));
         const qint64 key = query.value(0).toLongLong();
         query.finish();
         return key;
     });
 }
 
-Transaction::Transaction() : Transaction(session().connectionString) {}
+Transaction::Transaction()
+    : Transaction(session().connectionString) {}
 
-Transaction::Transaction(const QString &path, Open open)
-{
+Transaction::Transaction(const QString &path, Open open) {
     if (s_transaction)
         return;
     auto connection = std::make_unique<Connection>(path, open == Open::CreateIfMissing);
@@ -219,8 +200,7 @@ Transaction::Transaction(const QString &path, Open open)
     m_owner = true;
 }
 
-Transaction::~Transaction()
-{
+Transaction::~Transaction() {
     if (!m_owner)
         return;
     std::unique_ptr<Connection> connection(s_transaction);
@@ -231,8 +211,7 @@ Transaction::~Transaction()
     }
 }
 
-void Transaction::commit()
-{
+void Transaction::commit() {
     if (!m_owner || m_done)
         return;
     s_transaction->run(u"COMMIT"_s);

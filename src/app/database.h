@@ -25,17 +25,25 @@ namespace db {
 // as ISO text, flags as 1 or 0.
 class Param {
 public:
-    Param(int value) : m_value(value) {}
-    Param(qint64 value) : m_value(value) {}
-    Param(double value) : m_value(value) {}
-    Param(bool flag) : m_value(flag ? 1 : 0) {}
+    Param(int value)
+        : m_value(value) {}
+    Param(qint64 value)
+        : m_value(value) {}
+    Param(double value)
+        : m_value(value) {}
+    Param(bool flag)
+        : m_value(flag ? 1 : 0) {}
     // A text is never Null, even an empty one: Null is asked for with nullptr.
-    Param(const QString &text) : m_value(text.isNull() ? QString(u""_qs) : text) {}
-    Param(const char *text) : m_value(QString::fromUtf8(text)) {}
-    Param(Currency amount) : m_value(amount.units()) {}
+    Param(const QString &text)
+        : m_value(text.isNull() ? QString(u""_qs) : text) {}
+    Param(const char *text)
+        : m_value(QString::fromUtf8(text)) {}
+    Param(Currency amount)
+        : m_value(amount.units()) {}
     Param(const QDateTime &moment);
     Param(const QDate &day);
-    Param(std::nullptr_t) : m_value() {}
+    Param(std::nullptr_t)
+        : m_value() {}
 
     const QVariant &value() const { return m_value; }
 
@@ -53,7 +61,8 @@ QString dateText(const QDate &day); // the day at midnight
 class Row {
 public:
     Row() = default;
-    explicit Row(QSqlRecord record) : m_record(std::move(record)) {}
+    explicit Row(QSqlRecord record)
+        : m_record(std::move(record)) {}
 
     bool contains(const QString &column) const { return m_record.contains(column); }
     bool isNull(const QString &column) const;
@@ -78,7 +87,8 @@ private:
 class Snapshot {
 public:
     Snapshot() = default;
-    explicit Snapshot(QList<Row> rows) : m_rows(std::move(rows)) {}
+    explicit Snapshot(QList<Row> rows)
+        : m_rows(std::move(rows)) {}
 
     bool eof() const { return m_position >= m_rows.size(); }
     void moveNext() { ++m_position; }

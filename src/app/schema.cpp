@@ -67,15 +67,14 @@ constexpr const char *kIndexes[] = {
     "CREATE INDEX idxReceiptNumberingYear ON tblReceiptNumbering (receiptYear)",
 };
 
-void insertSeedRows()
-{
-    db::execute(u"INSERT INTO tblStatus (statusID, statusName) VALUES (1, 'Issued'), (2, 'Void')"_s);
+void insertSeedRows() {
+    db::execute(
+        u"INSERT INTO tblStatus (statusID, statusName) VALUES (1, 'Issued'), (2, 'Void')"_s);
     for (const char *method : {"Cash", "Check", "Credit Card", "PayPal", "Money Order"}) {
         db::execute(u"INSERT INTO tblPayMethod (methodName, payMethodStatus) VALUES (?, 1)"_s,
                     {method});
     }
-    db::execute(
-        uR"(INSERT INTO tblSystem (companyName, address1, address2, city, state, zip, phone,
+    db::execute(uR"(INSERT INTO tblSystem (companyName, address1, address2, city, state, zip, phone,
             numberFormat, defaultPaymentType, defaultReceiptType, taxRate, tagline, currencySymbol,
             dbVersion, customField1, customField2, customField3, customField4, customField5,
             customField6, customCurrency, resetNumberEOY, requireAddress, restrictAccess,
@@ -83,13 +82,12 @@ void insertSeedRows()
             otherFieldName, usePOSPrinter)
             VALUES ('', '', '', '', '', '', '', '[00000]', 1, 0, 0, '', 36, ?, '', '', '', '', '',
             '', '', 1, 0, 0, 0, 0, 1, 0, 0, 'Other', 0))"_s,
-        {QString::fromUtf16(kCurrentVersion)});
+                {QString::fromUtf16(kCurrentVersion)});
 }
 
 } // namespace
 
-void createDatabase(const QString &path)
-{
+void createDatabase(const QString &path) {
     if (QFileInfo::exists(path)) {
         throw BriskoError(RuntimeError::FileAlreadyExists,
                           QCoreApplication::translate("Schema", "File already exists"));
@@ -104,8 +102,7 @@ void createDatabase(const QString &path)
     transaction.commit();
 }
 
-void createDeliveredDatabase(const QString &path)
-{
+void createDeliveredDatabase(const QString &path) {
     createDatabase(path);
     db::Transaction transaction(path);
     const QString year = QString::number(QDate::currentDate().year()).right(2);

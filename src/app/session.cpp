@@ -2,18 +2,15 @@
 
 #include "admin/systemuser.h"
 
-Session &session()
-{
+Session &session() {
     static Session state;
     return state;
 }
 
-void resetSession()
-{
+void resetSession() {
     session() = Session{};
 }
 
-void setConnectionString(const QString &path)
-{
+void setConnectionString(const QString &path) {
     session().connectionString = path;
 }

@@ -7,17 +7,17 @@ class SystemUser;
 
 // The program-wide state of one run, set on the main thread.
 struct Session {
-    QString dbPath;            // full path of the open database file
-    QString connectionString;  // the file every database operation opens
+    QString dbPath;             // full path of the open database file
+    QString connectionString;   // the file every database operation opens
     bool useSharedFile = false; // the database is the multi-user share file
-    QString shareFileLocation; // full path of the share file; its lock is this + ".lck"
-    QString year2;             // last two digits of the year at start-up, never refreshed
-    bool firstRunFlag = false; // the first-run wizard is due
-    bool mainStarted = false;  // the one-time part of the main window's load has run
+    QString shareFileLocation;  // full path of the share file; its lock is this + ".lck"
+    QString year2;              // last two digits of the year at start-up, never refreshed
+    bool firstRunFlag = false;  // the first-run wizard is due
+    bool mainStarted = false;   // the one-time part of the main window's load has run
     std::shared_ptr<SystemUser> currentUser; // empty until login or the anonymous user
     bool restoreCompleted = false;
     bool shuttingDown = false;
-    int lastReceiptID = 0;     // key of the last receipt saved in this run
+    int lastReceiptID = 0; // key of the last receipt saved in this run
 };
 
 Session &session();

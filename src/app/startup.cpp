@@ -21,20 +21,17 @@ using namespace Qt::Literals::StringLiterals;
 namespace modMain {
 namespace {
 
-QString tr(const char *text)
-{
+QString tr(const char *text) {
     return QCoreApplication::translate("Initialise", text);
 }
 
-void showBox(const QString &text, const QString &title, Dialogs::Icon icon)
-{
+void showBox(const QString &text, const QString &title, Dialogs::Icon icon) {
     dialogs().message(text, title, icon, Dialogs::Buttons::Ok);
 }
 
 // The local database: the last one opened, else the default file, which the
 // very first start on an account puts in place.
-QString localDatabasePath()
-{
+QString localDatabasePath() {
     const QString lastDB = Utility::RegGetString(u"lastDB"_s);
     if (!lastDB.isEmpty())
         return lastDB;
@@ -46,8 +43,7 @@ QString localDatabasePath()
 
 // Asks for another file when the chosen one is missing; false when the user
 // cancelled and the program ends.
-bool ensureDatabaseExists()
-{
+bool ensureDatabaseExists() {
     Session &state = session();
     if (QFileInfo::exists(state.dbPath))
         return true;
@@ -62,15 +58,13 @@ bool ensureDatabaseExists()
     return true;
 }
 
-void endForLackOfYear(const QString &text)
-{
+void endForLackOfYear(const QString &text) {
     showBox(text, tr("Program Failure"), Dialogs::Icon::Critical);
     EndProgram();
 }
 
 // The start number of the new year as typed, or worked out from the last one.
-QString askStartNumber()
-{
+QString askStartNumber() {
     if (company().resetNumberEOY) {
         return dialogs().input(
             tr("Entering the starting number for the receipt.  Must be greater or equal to 1."),
@@ -80,8 +74,7 @@ QString askStartNumber()
 }
 
 // Loops until a start number is accepted; empty when the user aborted.
-QString acceptedStartNumber()
-{
+QString acceptedStartNumber() {
     for (;;) {
         const QString text = askStartNumber();
         if (text.isEmpty()) {
@@ -106,8 +99,7 @@ QString acceptedStartNumber()
 }
 
 // Makes the numbering row of a year that has none; false when the program ends.
-bool runYearChange()
-{
+bool runYearChange() {
     const QString year2 = session().year2;
     const auto answer = dialogs().message(
         tr("The program has detected a change in the receipt year.") + u'\n' +
@@ -129,8 +121,7 @@ bool runYearChange()
     return true;
 }
 
-bool initialiseSteps()
-{
+bool initialiseSteps() {
     Session &state = session();
     loadShareSettings();
     state.dbPath = state.useSharedFile ? state.shareFileLocation : localDatabasePath();
@@ -147,8 +138,7 @@ bool initialiseSteps()
 
 } // namespace
 
-bool Initialise()
-{
+bool Initialise() {
     try {
         return initialiseSteps();
     } catch (const BriskoError &error) {
@@ -159,8 +149,7 @@ bool Initialise()
     }
 }
 
-void loadShareSettings()
-{
+void loadShareSettings() {
     Session &state = session();
     state.useSharedFile = false;
     state.shareFileLocation.clear();
@@ -185,8 +174,7 @@ void loadShareSettings()
     state.shareFileLocation = location;
 }
 
-void EndProgram()
-{
+void EndProgram() {
     session().shuttingDown = true;
     processControl().endProgram();
 }

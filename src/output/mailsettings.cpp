@@ -4,8 +4,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-MailSettings MailSettings::stored()
-{
+MailSettings MailSettings::stored() {
     MailSettings settings;
     settings.mailServer = SettingsStore::read(u"Mail/mailServer"_s).toString();
     settings.mailFrom = SettingsStore::read(u"Mail/mailFrom"_s).toString();
@@ -16,8 +15,7 @@ MailSettings MailSettings::stored()
     return settings;
 }
 
-void MailSettings::store() const
-{
+void MailSettings::store() const {
     SettingsStore::write(u"Mail/mailServer"_s, mailServer);
     SettingsStore::write(u"Mail/mailFrom"_s, mailFrom);
     SettingsStore::write(u"Mail/mailUsername"_s, mailUsername);

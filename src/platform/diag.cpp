@@ -7,8 +7,7 @@
 #include <QFile>
 #include <QLocale>
 
-void Diag::WriteLogEntry(const QString &message) const
-{
+void Diag::WriteLogEntry(const QString &message) const {
     if (!loggingEnabled)
         return;
     QFile file(logFilePath);

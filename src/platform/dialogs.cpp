@@ -7,14 +7,12 @@
 
 namespace {
 
-std::unique_ptr<Dialogs> &current()
-{
+std::unique_ptr<Dialogs> &current() {
     static std::unique_ptr<Dialogs> instance = std::make_unique<WidgetDialogs>();
     return instance;
 }
 
-QMessageBox::Icon toQtIcon(Dialogs::Icon icon)
-{
+QMessageBox::Icon toQtIcon(Dialogs::Icon icon) {
     switch (icon) {
     case Dialogs::Icon::Critical:
         return QMessageBox::Critical;
@@ -30,8 +28,7 @@ QMessageBox::Icon toQtIcon(Dialogs::Icon icon)
     return QMessageBox::NoIcon;
 }
 
-QMessageBox::StandardButtons toQtButtons(Dialogs::Buttons buttons)
-{
+QMessageBox::StandardButtons toQtButtons(Dialogs::Buttons buttons) {
     switch (buttons) {
     case Dialogs::Buttons::OkCancel:
         return QMessageBox::Ok | QMessageBox::Cancel;
@@ -45,8 +42,7 @@ QMessageBox::StandardButtons toQtButtons(Dialogs::Buttons buttons)
     return QMessageBox::Ok;
 }
 
-Dialogs::Answer fromQtButton(int button)
-{
+Dialogs::Answer fromQtButton(int button) {
     switch (button) {
     case QMessageBox::Cancel:
         return Dialogs::Answer::Cancel;
@@ -59,55 +55,47 @@ Dialogs::Answer fromQtButton(int button)
     }
 }
 
-QWidget *owner()
-{
+QWidget *owner() {
     return QApplication::activeWindow();
 }
 
 } // namespace
 
-Dialogs &dialogs()
-{
+Dialogs &dialogs() {
     return *current();
 }
 
-std::unique_ptr<Dialogs> installDialogs(std::unique_ptr<Dialogs> replacement)
-{
+std::unique_ptr<Dialogs> installDialogs(std::unique_ptr<Dialogs> replacement) {
     std::swap(current(), replacement);
     return replacement;
 }
 
 Dialogs::Answer WidgetDialogs::message(const QString &text, const QString &title, Icon icon,
-                                       Buttons buttons)
-{
+                                       Buttons buttons) {
     QMessageBox box(toQtIcon(icon), title, text, toQtButtons(buttons), owner());
     return fromQtButton(box.exec());
 }
 
 QString WidgetDialogs::input(const QString &prompt, const QString &title,
-                             const QString &defaultText)
-{
+                             const QString &defaultText) {
     bool accepted = false;
     const QString text =
         QInputDialog::getText(owner(), title, prompt, QLineEdit::Normal, defaultText, &accepted);
     return accepted ? text : QString();
 }
 
-QString WidgetDialogs::openFile(const FileRequest &request)
-{
+QString WidgetDialogs::openFile(const FileRequest &request) {
     const QString start =
         request.fileName.isEmpty() ? request.folder : request.folder + u'/' + request.fileName;
     return QFileDialog::getOpenFileName(owner(), request.title, start, request.filter);
 }
 
-QString WidgetDialogs::saveFile(const FileRequest &request)
-{
+QString WidgetDialogs::saveFile(const FileRequest &request) {
     const QString start =
         request.fileName.isEmpty() ? request.folder : request.folder + u'/' + request.fileName;
     return QFileDialog::getSaveFileName(owner(), request.title, start, request.filter);
 }
 
-QString WidgetDialogs::chooseFolder(const QString &title)
-{
+QString WidgetDialogs::chooseFolder(const QString &title) {
     return QFileDialog::getExistingDirectory(owner(), title);
 }

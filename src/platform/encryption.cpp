@@ -9,8 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace Utility {
 
-QString EncryptString(const QString &text, const QString &key)
-{
+QString EncryptString(const QString &text, const QString &key) {
     return reraiseWithPrefix(u"Utility.EncryptString:  "_s, [&] {
         const QString trimmed = text.trimmed();
         if (trimmed.isEmpty())

@@ -9,8 +9,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString &overrideFolder()
-{
+QString &overrideFolder() {
     static QString folder;
     return folder;
 }
@@ -19,38 +18,32 @@ QString &overrideFolder()
 
 namespace Paths {
 
-QString dataFolder()
-{
+QString dataFolder() {
     if (!overrideFolder().isEmpty())
         return overrideFolder();
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
-QString defaultDatabasePath()
-{
+QString defaultDatabasePath() {
     return dataFolder() + u"/data/bdesk.db"_s;
 }
 
-QString logoPath()
-{
+QString logoPath() {
     return dataFolder() + u"/companyLogo.jpg"_s;
 }
 
-QString backupsFolder()
-{
+QString backupsFolder() {
     return dataFolder() + u"/backups"_s;
 }
 
-QString resourceFolder()
-{
+QString resourceFolder() {
     const QString beside = QCoreApplication::applicationDirPath();
     if (QFileInfo::exists(beside + u"/reports"_s))
         return beside;
     return QDir::cleanPath(beside + u"/../share/brisko"_s);
 }
 
-void useDataFolder(const QString &folder)
-{
+void useDataFolder(const QString &folder) {
     overrideFolder() = folder;
 }
 

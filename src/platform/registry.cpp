@@ -4,16 +4,14 @@
 
 namespace Utility {
 
-QString RegGetString(const QString &valueName)
-{
+QString RegGetString(const QString &valueName) {
     const QVariant value = SettingsStore::read(valueName);
     if (value.typeId() != QMetaType::QString)
         return {};
     return value.toString().trimmed();
 }
 
-void RegSetString(const QString &valueName, const QString &value)
-{
+void RegSetString(const QString &valueName, const QString &value) {
     SettingsStore::write(valueName, value);
 }
 

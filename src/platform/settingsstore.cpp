@@ -7,14 +7,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString &overrideFile()
-{
+QString &overrideFile() {
     static QString path;
     return path;
 }
 
-std::unique_ptr<QSettings> open()
-{
+std::unique_ptr<QSettings> open() {
     if (!overrideFile().isEmpty())
         return std::make_unique<QSettings>(overrideFile(), QSettings::IniFormat);
     return std::make_unique<QSettings>(u"TOLVERAN"_s, u"Brisko"_s);
@@ -24,27 +22,23 @@ std::unique_ptr<QSettings> open()
 
 namespace SettingsStore {
 
-QVariant read(const QString &key)
-{
+QVariant read(const QString &key) {
     return open()->value(key);
 }
 
-void write(const QString &key, const QVariant &value)
-{
+void write(const QString &key, const QVariant &value) {
     auto settings = open();
     settings->setValue(key, value);
     settings->sync();
 }
 
-void remove(const QString &key)
-{
+void remove(const QString &key) {
     auto settings = open();
     settings->remove(key);
     settings->sync();
 }
 
-void useFile(const QString &iniPath)
-{
+void useFile(const QString &iniPath) {
     overrideFile() = iniPath;
 }
 

@@ -19,8 +19,7 @@ public:
     using QObject::QObject;
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
+    bool eventFilter(QObject *watched, QEvent *event) override {
         if (event->type() == QEvent::FocusIn) {
             auto *textBox = static_cast<QLineEdit *>(watched);
             QTimer::singleShot(0, textBox, [textBox] { selectAllText(textBox); });
@@ -31,26 +30,22 @@ protected:
 
 } // namespace
 
-QString browseForFolder(QWidget *ownerWindow, const QString &title)
-{
+QString browseForFolder(QWidget *ownerWindow, const QString &title) {
     Q_UNUSED(ownerWindow);
     return dialogs().chooseFolder(title);
 }
 
-void shellOpen(const QString &fileOrAddress)
-{
-    const QUrl url = QFileInfo::exists(fileOrAddress) ? QUrl::fromLocalFile(fileOrAddress)
-                                                      : QUrl(fileOrAddress);
+void shellOpen(const QString &fileOrAddress) {
+    const QUrl url =
+        QFileInfo::exists(fileOrAddress) ? QUrl::fromLocalFile(fileOrAddress) : QUrl(fileOrAddress);
     processControl().openExternally(url);
 }
 
-void selectAllText(QLineEdit *textBox)
-{
+void selectAllText(QLineEdit *textBox) {
     textBox->setSelection(0, static_cast<int>(textBox->text().length()));
 }
 
-void selectAllOnFocus(QLineEdit *textBox)
-{
+void selectAllOnFocus(QLineEdit *textBox) {
     textBox->installEventFilter(new SelectAllOnFocus(textBox));
 }
 

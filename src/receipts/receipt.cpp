@@ -1,12 +1,10 @@
 #include "receipts/receipt.h"
 
 #include "app/briskoerror.h"
-#include "receipts/storedtext.h"
 
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
-using receipts::storedText;
 
 namespace {
 
@@ -66,68 +64,29 @@ void Receipt::insertReceipt() {
         "customField1, customField2, customField3, customField4, customField5, customField6, "
         "accountBalance,serviceID,voidReason) "
         "VALUES(?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?,?) RETURNING receiptID"_s,
-        {storedText(receiptNumber),
-         receiptDate,
-         payeeID,
-         amountDue,
-         amountReceived,
-         balanceRemaining,
-         storedText(checkNumber),
-         int(paymentType),
-         storedText(receivedBy),
-         int(status),
-         storedText(receiptDesc),
-         storedText(otherPaymentDesc),
-         amountTax,
-         amountOther,
-         amountDiscount,
-         int(receiptType),
-         storedText(customField1),
-         storedText(customField2),
-         storedText(customField3),
-         storedText(customField4),
-         storedText(customField5),
-         storedText(customField6),
-         accountBalance,
-         int(serviceID),
-         storedText(voidReason)});
+        {receiptNumber,    receiptDate,      payeeID,          amountDue,      amountReceived,
+         balanceRemaining, checkNumber,      int(paymentType), receivedBy,     int(status),
+         receiptDesc,      otherPaymentDesc, amountTax,        amountOther,    amountDiscount,
+         int(receiptType), customField1,     customField2,     customField3,   customField4,
+         customField5,     customField6,     accountBalance,   int(serviceID), voidReason});
     receiptID = static_cast<qint32>(key);
 }
 
 // A receipt's number never changes once written, so it is not in the SET list.
 void Receipt::updateReceipt() {
-    db::execute(u"UPDATE tblReceipt "
-                "SET status= ?,payeeID = ?,amountDue = ?,receiptDate = ?,amountReceived = ?,"
-                "balanceRemaining=?,checkNumber=?,paymentType=?,receivedBy=?,receiptDesc=?,"
-                "otherPaymentDesc=?,amountTax=?,amountOther=?,amountDiscount=?,receiptType=?,"
-                "customField1=?,customField2=?,customField3=?,customField4=?,customField5=?,"
-                "customField6=?, accountBalance=?, serviceID =?, voidReason = ? "
-                " WHERE receiptID = ?"_s,
-                {int(status),
-                 payeeID,
-                 amountDue,
-                 receiptDate,
-                 amountReceived,
-                 balanceRemaining,
-                 storedText(checkNumber),
-                 int(paymentType),
-                 storedText(receivedBy),
-                 storedText(receiptDesc),
-                 storedText(otherPaymentDesc),
-                 amountTax,
-                 amountOther,
-                 amountDiscount,
-                 int(receiptType),
-                 storedText(customField1),
-                 storedText(customField2),
-                 storedText(customField3),
-                 storedText(customField4),
-                 storedText(customField5),
-                 storedText(customField6),
-                 accountBalance,
-                 int(serviceID),
-                 storedText(voidReason),
-                 receiptID});
+    db::execute(
+        u"UPDATE tblReceipt "
+        "SET status= ?,payeeID = ?,amountDue = ?,receiptDate = ?,amountReceived = ?,"
+        "balanceRemaining=?,checkNumber=?,paymentType=?,receivedBy=?,receiptDesc=?,"
+        "otherPaymentDesc=?,amountTax=?,amountOther=?,amountDiscount=?,receiptType=?,"
+        "customField1=?,customField2=?,customField3=?,customField4=?,customField5=?,"
+        "customField6=?, accountBalance=?, serviceID =?, voidReason = ? "
+        " WHERE receiptID = ?"_s,
+        {int(status),      payeeID,        amountDue,        receiptDate,    amountReceived,
+         balanceRemaining, checkNumber,    int(paymentType), receivedBy,     receiptDesc,
+         otherPaymentDesc, amountTax,      amountOther,      amountDiscount, int(receiptType),
+         customField1,     customField2,   customField3,     customField4,   customField5,
+         customField6,     accountBalance, int(serviceID),   voidReason,     receiptID});
 }
 
 bool Receipt::deleteReceipt(qint32 receiptID) {
@@ -150,11 +109,11 @@ bool Receipt::writeReceiptProducts(qint32 receiptID, qint32 productID, qint16 qu
                                    const QString &extDesc) {
     return reraiseWithPrefix(u"Receipt.writeReceiptProducts:  "_s, [&] {
         const Currency unitTotal = overrideCost * quantity;
-        db::execute(u"INSERT INTO tblReceipt_Product "
-                    "(receiptID, productID, quantity, overrideCost, overrideDesc, unitTotal, "
-                    "extDesc) VALUES(?,?,?,?,?,?,?)"_s,
-                    {receiptID, productID, int(quantity), overrideCost, storedText(overrideDesc),
-                     unitTotal, storedText(extDesc)});
+        db::execute(
+            u"INSERT INTO tblReceipt_Product "
+            "(receiptID, productID, quantity, overrideCost, overrideDesc, unitTotal, "
+            "extDesc) VALUES(?,?,?,?,?,?,?)"_s,
+            {receiptID, productID, int(quantity), overrideCost, overrideDesc, unitTotal, extDesc});
         return true;
     });
 }
@@ -182,7 +141,7 @@ bool Receipt::GetReceipt(qint32 receiptID, const QString &receiptNumber) {
         const std::optional<db::Row> row =
             receiptID < 1
                 ? db::readFirst(u"SELECT * FROM tblReceipt WHERE receiptNumber = ?"_s,
-                                {storedText(receiptNumber)})
+                                {receiptNumber})
                 : db::readFirst(u"SELECT * FROM tblReceipt WHERE receiptID = ?"_s, {receiptID});
         if (!row)
             return false;
