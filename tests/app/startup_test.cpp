@@ -18,35 +18,31 @@ namespace {
 
 class InitialiseTest : public BriskoTest {
 protected:
-    void SetUp() override
-    {
+    void SetUp() override {
         BriskoTest::SetUp();
         Utility::RegSetString(u"lastDB"_s, databasePath());
     }
 
-    void numberThisYear(int lastNumberUsed = 0)
-    {
-        db::execute(u"INSERT INTO tblReceiptNumbering (receiptYear, lastNumberUsed) VALUES (?, ?)"_s,
-                    {session().year2, lastNumberUsed});
+    void numberThisYear(int lastNumberUsed = 0) {
+        db::execute(
+            u"INSERT INTO tblReceiptNumbering (receiptYear, lastNumberUsed) VALUES (?, ?)"_s,
+            {session().year2, lastNumberUsed});
     }
 
-    void setResetNumberEOY(int value)
-    {
+    void setResetNumberEOY(int value) {
         db::execute(u"UPDATE tblSystem SET resetNumberEOY = ?"_s, {value});
     }
 
     // The last number stored for this year, or -1 when it has no row.
-    int storedLastNumber()
-    {
-        const auto row = db::readFirst(
-            u"SELECT lastNumberUsed FROM tblReceiptNumbering WHERE receiptYear = ?"_s,
-            {session().year2});
+    int storedLastNumber() {
+        const auto row =
+            db::readFirst(u"SELECT lastNumberUsed FROM tblReceiptNumbering WHERE receiptYear = ?"_s,
+                          {session().year2});
         return row ? row->int32(u"lastNumberUsed"_s) : -1;
     }
 };
 
-TEST_F(InitialiseTest, TheFirstStartOnAnAccountPutsANewDatabaseInPlace)
-{
+TEST_F(InitialiseTest, TheFirstStartOnAnAccountPutsANewDatabaseInPlace) {
     Utility::RegSetString(u"lastDB"_s, {});
     ASSERT_TRUE(modMain::Initialise());
     const QString delivered = Paths::defaultDatabasePath();
@@ -58,8 +54,7 @@ TEST_F(InitialiseTest, TheFirstStartOnAnAccountPutsANewDatabaseInPlace)
     EXPECT_EQ(storedLastNumber(), 0);
 }
 
-TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly)
-{
+TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly) {
     numberThisYear();
     Utility::RegSetString(u"useSharedFile"_s, u"True"_s);
     Utility::RegSetString(u"shareFileLocation"_s, u"/nowhere/bdesk.db"_s);
@@ -76,8 +71,7 @@ TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly)
     EXPECT_EQ(Utility::RegGetString(u"useSharedFile"_s), u"True"_s);
 }
 
-TEST_F(InitialiseTest, AnExistingShareFileIsTheDatabase)
-{
+TEST_F(InitialiseTest, AnExistingShareFileIsTheDatabase) {
     numberThisYear();
     Utility::RegSetString(u"lastDB"_s, u"/elsewhere/local.db"_s);
     Utility::RegSetString(u"useSharedFile"_s, u" true "_s);
@@ -88,8 +82,7 @@ TEST_F(InitialiseTest, AnExistingShareFileIsTheDatabase)
     EXPECT_EQ(session().dbPath, databasePath());
 }
 
-TEST_F(InitialiseTest, AShareSettingThatIsNoYesOrNoQuietlyMeansLocal)
-{
+TEST_F(InitialiseTest, AShareSettingThatIsNoYesOrNoQuietlyMeansLocal) {
     numberThisYear();
     Utility::RegSetString(u"useSharedFile"_s, u"perhaps"_s);
     Utility::RegSetString(u"shareFileLocation"_s, databasePath());
@@ -99,8 +92,7 @@ TEST_F(InitialiseTest, AShareSettingThatIsNoYesOrNoQuietlyMeansLocal)
     EXPECT_EQ(session().shareFileLocation, u""_s);
 }
 
-TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt)
-{
+TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt) {
     numberThisYear();
     const QString deleted = tempPath(u"deleted.db"_s);
     Utility::RegSetString(u"lastDB"_s, deleted);
@@ -118,8 +110,7 @@ TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt)
     EXPECT_EQ(session().dbPath, databasePath());
 }
 
-TEST_F(InitialiseTest, CancellingTheChooserEndsSilently)
-{
+TEST_F(InitialiseTest, CancellingTheChooserEndsSilently) {
     Utility::RegSetString(u"lastDB"_s, tempPath(u"deleted.db"_s));
     EXPECT_FALSE(modMain::Initialise());
     EXPECT_EQ(boxes().shown.size(), 2); // the box and the chooser, nothing after
@@ -128,8 +119,7 @@ TEST_F(InitialiseTest, CancellingTheChooserEndsSilently)
     EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), tempPath(u"deleted.db"_s));
 }
 
-TEST_F(InitialiseTest, AFileThatIsNoDatabaseEndsInTheStartupErrorBox)
-{
+TEST_F(InitialiseTest, AFileThatIsNoDatabaseEndsInTheStartupErrorBox) {
     QFile junk(tempPath(u"junk.db"_s));
     ASSERT_TRUE(junk.open(QIODevice::WriteOnly));
     junk.write(QByteArray(4096, 'x'));
@@ -143,8 +133,7 @@ TEST_F(InitialiseTest, AFileThatIsNoDatabaseEndsInTheStartupErrorBox)
     EXPECT_EQ(process().endProgramCalls, 1);
 }
 
-TEST_F(InitialiseTest, TheWizardIsDueUntilFirstRunHoldsAValue)
-{
+TEST_F(InitialiseTest, TheWizardIsDueUntilFirstRunHoldsAValue) {
     numberThisYear();
     ASSERT_TRUE(modMain::Initialise());
     EXPECT_TRUE(session().firstRunFlag);
@@ -155,22 +144,20 @@ TEST_F(InitialiseTest, TheWizardIsDueUntilFirstRunHoldsAValue)
 
 class YearChangeTest : public InitialiseTest {
 protected:
-    void SetUp() override
-    {
+    void SetUp() override {
         InitialiseTest::SetUp();
-        db::execute(u"INSERT INTO tblReceiptNumbering (receiptYear, lastNumberUsed) VALUES ('12', 41)"_s);
+        db::execute(
+            u"INSERT INTO tblReceiptNumbering (receiptYear, lastNumberUsed) VALUES ('12', 41)"_s);
     }
 
-    QString yearChangeText() const
-    {
+    QString yearChangeText() const {
         return u"The program has detected a change in the receipt year.\nand will create a new "
                u"year for "_s +
                session().year2 + u".  Click OK to proceed."_s;
     }
 };
 
-TEST_F(YearChangeTest, WithoutResetNumberingRunsOnAfterOneQuestion)
-{
+TEST_F(YearChangeTest, WithoutResetNumberingRunsOnAfterOneQuestion) {
     setResetNumberEOY(0);
     ASSERT_TRUE(modMain::Initialise());
     ASSERT_EQ(boxes().shown.size(), 1);
@@ -181,25 +168,22 @@ TEST_F(YearChangeTest, WithoutResetNumberingRunsOnAfterOneQuestion)
     EXPECT_EQ(storedLastNumber(), 41); // the next receipt gets 42
 }
 
-TEST_F(YearChangeTest, CancelEndsTheProgramWithoutAYear)
-{
+TEST_F(YearChangeTest, CancelEndsTheProgramWithoutAYear) {
     boxes().answers.enqueue(Answer::Cancel);
     EXPECT_FALSE(modMain::Initialise());
-    EXPECT_EQ(boxes().messages().last(),
-              u"This program can not continue without creating the new year."_s);
-    EXPECT_EQ(boxes().titles().last(), u"Program Failure"_s);
+    EXPECT_EQ(boxes().lines().last(),
+              u"Program Failure | This program can not continue without creating the new year. "
+              u"| Critical"_s);
     EXPECT_EQ(process().endProgramCalls, 1);
     EXPECT_EQ(storedLastNumber(), -1);
 }
 
-TEST_F(YearChangeTest, ATypedStartNumberIsCheckedUntilItIsAccepted)
-{
+TEST_F(YearChangeTest, ATypedStartNumberIsCheckedUntilItIsAccepted) {
     boxes().texts << u"0"_s << u"12a"_s << u"7"_s;
     ASSERT_TRUE(modMain::Initialise());
-    EXPECT_EQ(boxes().titles(),
-              QStringList({u"Year Change"_s, u"Starting Number"_s, u"Invalid Starting Number"_s,
-                           u"Starting Number"_s, u"Invalid Starting Number"_s,
-                           u"Starting Number"_s}));
+    EXPECT_EQ(boxes().titles(), QStringList({u"Year Change"_s, u"Starting Number"_s,
+                                             u"Invalid Starting Number"_s, u"Starting Number"_s,
+                                             u"Invalid Starting Number"_s, u"Starting Number"_s}));
     EXPECT_EQ(boxes().shown[1].text,
               u"Entering the starting number for the receipt.  Must be greater or equal to 1."_s);
     EXPECT_EQ(boxes().shown[2].text, u"Starting number must be greater than zero"_s);
@@ -208,8 +192,7 @@ TEST_F(YearChangeTest, ATypedStartNumberIsCheckedUntilItIsAccepted)
     EXPECT_EQ(storedLastNumber(), 6);
 }
 
-TEST_F(YearChangeTest, NotAbortingAfterCancelCostsOneMoreBox)
-{
+TEST_F(YearChangeTest, NotAbortingAfterCancelCostsOneMoreBox) {
     boxes().answers << Answer::Ok << Answer::No;
     boxes().texts << u""_s << u"5"_s;
     ASSERT_TRUE(modMain::Initialise());
@@ -221,13 +204,11 @@ TEST_F(YearChangeTest, NotAbortingAfterCancelCostsOneMoreBox)
     EXPECT_EQ(storedLastNumber(), 4);
 }
 
-TEST_F(YearChangeTest, AbortingEndsTheProgram)
-{
+TEST_F(YearChangeTest, AbortingEndsTheProgram) {
     boxes().answers << Answer::Ok << Answer::Yes;
     EXPECT_FALSE(modMain::Initialise());
-    EXPECT_EQ(boxes().messages().last(),
-              u"User aborted.  This program can not continue without creating the new year."_s);
-    EXPECT_EQ(boxes().shown.last().icon, Icon::Critical);
+    EXPECT_EQ(boxes().lines().last(), u"Program Failure | User aborted.  This program can not "
+                                      u"continue without creating the new year. | Critical"_s);
     EXPECT_EQ(process().endProgramCalls, 1);
     EXPECT_EQ(storedLastNumber(), -1);
 }

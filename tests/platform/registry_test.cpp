@@ -11,21 +11,18 @@ namespace {
 
 using MachineSettingsTest = BriskoTest;
 
-TEST_F(MachineSettingsTest, ValuesComeBackTrimmedAndMissingOnesEmpty)
-{
+TEST_F(MachineSettingsTest, ValuesComeBackTrimmedAndMissingOnesEmpty) {
     Utility::RegSetString(u"lastDB"_s, u"  /srv/shop/bdesk.db \t"_s);
     EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), u"/srv/shop/bdesk.db"_s);
     EXPECT_EQ(Utility::RegGetString(u"firstRun"_s), u""_s);
 }
 
-TEST_F(MachineSettingsTest, AValueThatIsNoTextReadsEmpty)
-{
+TEST_F(MachineSettingsTest, AValueThatIsNoTextReadsEmpty) {
     SettingsStore::write(u"useSharedFile"_s, QStringList{u"True"_s, u"False"_s});
     EXPECT_EQ(Utility::RegGetString(u"useSharedFile"_s), u""_s);
 }
 
-TEST_F(MachineSettingsTest, AWrittenValueIsOnDiskAtOnce)
-{
+TEST_F(MachineSettingsTest, AWrittenValueIsOnDiskAtOnce) {
     // The process may end straight after a write, so nothing may wait for a sync.
     Utility::RegSetString(u"firstRun"_s, u"no"_s);
     QFile file(tempPath(u"settings.ini"_s));
@@ -33,8 +30,7 @@ TEST_F(MachineSettingsTest, AWrittenValueIsOnDiskAtOnce)
     EXPECT_TRUE(file.readAll().contains("firstRun=no"));
 }
 
-TEST(SelectAllText, SelectsTheWholeText)
-{
+TEST(SelectAllText, SelectsTheWholeText) {
     QLineEdit amount(u"12.50"_s);
     amount.setCursorPosition(2);
     Utility::selectAllText(&amount);

@@ -53,13 +53,3 @@ protected:
         return QDateTime(QDate(year, month, day), QTime(hour, 0));
     }
 };
-
-// The failing call's error, or an empty description when it did not fail.
-template <typename Call> BriskoError errorOf(Call &&call) {
-    try {
-        call();
-    } catch (const BriskoError &error) {
-        return error;
-    }
-    return BriskoError(0, QString());
-}

@@ -11,8 +11,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-void BriskoTest::SetUp()
-{
+void BriskoTest::SetUp() {
     ASSERT_TRUE(m_dir.isValid());
     resetSession();
     resetCompany();
@@ -34,8 +33,7 @@ void BriskoTest::SetUp()
     modMain::loadCompanyInfo();
 }
 
-void BriskoTest::TearDown()
-{
+void BriskoTest::TearDown() {
     for (QWidget *widget : QApplication::topLevelWidgets())
         widget->close();
     SettingsStore::useFile({});

@@ -35,8 +35,7 @@ private:
 };
 
 template <typename Screen, typename Open, typename Act>
-void BriskoTest::driveModal(Open &&open, Act &&whileOpen)
-{
+void BriskoTest::driveModal(Open &&open, Act &&whileOpen) {
     bool acted = false;
     int ticksAfterActing = 0;
     QTimer poll;

@@ -2,10 +2,11 @@
 
 #include "platform/dialogs.h"
 #include "platform/processcontrol.h"
+#include "support/testhelpers.h"
 
 #include <QList>
 #include <QQueue>
-#include <QString>
+#include <QStringList>
 #include <QUrl>
 
 // Dialogs that show nothing: every box is recorded, and answers come from a
@@ -16,30 +17,38 @@ public:
     struct Shown {
         enum class Kind { Message, Input, OpenFile, SaveFile, Folder };
         Kind kind = Kind::Message;
-        QString text; // message text, input prompt
         QString title;
+        QString text; // message text or input prompt
         Icon icon = Icon::None;
         Buttons buttons = Buttons::Ok;
-        FileRequest request; // for the choosers
+        FileRequest request = {}; // what a chooser was asked
     };
 
     QList<Shown> shown;
-    QQueue<Answer> answers;   // for message boxes
-    QQueue<QString> texts;    // for input boxes and choosers
+    QQueue<Answer> answers; // for message boxes
+    QQueue<QString> texts;  // for input boxes and choosers
 
     Answer message(const QString &text, const QString &title, Icon icon, Buttons buttons) override;
-    QString input(const QString &prompt, const QString &title, const QString &defaultText) override;
-    QString openFile(const FileRequest &request) override;
-    QString saveFile(const FileRequest &request) override;
-    QString chooseFolder(const QString &title) override;
+    QString input(const QString &prompt, const QString &title, const QString &) override {
+        return record({Shown::Kind::Input, title, prompt});
+    }
+    QString openFile(const FileRequest &request) override {
+        return record({Shown::Kind::OpenFile, request.title, {}, Icon::None, {}, request});
+    }
+    QString saveFile(const FileRequest &request) override {
+        return record({Shown::Kind::SaveFile, request.title, {}, Icon::None, {}, request});
+    }
+    QString chooseFolder(const QString &title) override {
+        return record({Shown::Kind::Folder, title, {}});
+    }
 
-    // The texts of the message boxes shown, in order.
-    QStringList messages() const;
-    // The titles of every box shown, in order.
+    // Every box shown, in order, as "title | text", and " | icon" when it has one.
+    QStringList lines() const;
+    // The title of every box shown, in order.
     QStringList titles() const;
 
 private:
-    QString nextText();
+    QString record(const Shown &box);
 };
 
 // Process control that only notes what was asked of it.
