@@ -71,25 +71,21 @@ TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly) {
     EXPECT_EQ(Utility::RegGetString(u"useSharedFile"_s), u"True"_s);
 }
 
-TEST_F(InitialiseTest, AnExistingShareFileIsTheDatabase) {
+TEST_F(InitialiseTest, AShareSettingIsReadAsAYesOrNoOrQuietlyMeansLocal) {
     numberThisYear();
     Utility::RegSetString(u"lastDB"_s, u"/elsewhere/local.db"_s);
     Utility::RegSetString(u"useSharedFile"_s, u" true "_s);
     Utility::RegSetString(u"shareFileLocation"_s, databasePath());
     ASSERT_TRUE(modMain::Initialise());
-    EXPECT_TRUE(boxes().shown.isEmpty());
     EXPECT_TRUE(session().useSharedFile);
     EXPECT_EQ(session().dbPath, databasePath());
-}
 
-TEST_F(InitialiseTest, AShareSettingThatIsNoYesOrNoQuietlyMeansLocal) {
-    numberThisYear();
+    Utility::RegSetString(u"lastDB"_s, databasePath());
     Utility::RegSetString(u"useSharedFile"_s, u"perhaps"_s);
-    Utility::RegSetString(u"shareFileLocation"_s, databasePath());
     ASSERT_TRUE(modMain::Initialise());
-    EXPECT_TRUE(boxes().shown.isEmpty());
     EXPECT_FALSE(session().useSharedFile);
     EXPECT_EQ(session().shareFileLocation, u""_s);
+    EXPECT_TRUE(boxes().shown.isEmpty());
 }
 
 TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt) {

@@ -29,16 +29,6 @@ TEST_F(ReceiptRecordTest, InsertSetsKeyThenUpdateKeepsKeyAndNumber) {
     EXPECT_EQ(stored.receiptDate, at(2013, 10, 25));
 }
 
-TEST_F(ReceiptRecordTest, FailedWriteLeavesKeyAndFields) {
-    setConnectionString(tempPath(u"missing.db"_s));
-    Receipt receipt = issuedReceipt(u"00001"_s, at(2013, 10, 25));
-    const BriskoError error = errorOf([&] { receipt.writeReceipt(); });
-    EXPECT_TRUE(error.description().startsWith(u"Receipt.writeReceipt:  Could not find file"_s))
-        << error.description().toStdString();
-    EXPECT_EQ(receipt.receiptID, 0);
-    EXPECT_EQ(receipt.receiptNumber, u"00001"_s);
-}
-
 TEST_F(ReceiptRecordTest, GetReceiptByNumberOrKeyAndNotFound) {
     const qint32 first = saved(issuedReceipt(u"13-07"_s, at(2013, 10, 25)));
     const qint32 second = saved(issuedReceipt(u"13-08"_s, at(2013, 10, 26)));
