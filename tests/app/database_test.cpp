@@ -10,11 +10,6 @@ namespace {
 
 class DatabaseTest : public BriskoTest {
 protected:
-    static qint64 addPayee(const QString &name) {
-        return db::insertReturningKey(
-            u"INSERT INTO tblPayee (payeeName) VALUES (?) RETURNING payeeID"_s, {name});
-    }
-
     static qint64 payeeCount() {
         return db::readFirst(u"SELECT COUNT(*) AS n FROM tblPayee"_s)->value(u"n"_s).toLongLong();
     }

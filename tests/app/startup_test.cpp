@@ -12,7 +12,6 @@
 using namespace Qt::Literals::StringLiterals;
 using Icon = Dialogs::Icon;
 using Answer = Dialogs::Answer;
-using Kind = ScriptedDialogs::Shown::Kind;
 
 namespace {
 
@@ -59,12 +58,10 @@ TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly) {
     Utility::RegSetString(u"useSharedFile"_s, u"True"_s);
     Utility::RegSetString(u"shareFileLocation"_s, u"/nowhere/bdesk.db"_s);
     ASSERT_TRUE(modMain::Initialise());
-    ASSERT_EQ(boxes().shown.size(), 1);
-    EXPECT_EQ(boxes().shown[0].text,
-              u"Share file /nowhere/bdesk.db could not be found.  Using local database instead.  "
-              u"Go to File->Multi-user settings and check your share file settings."_s);
-    EXPECT_EQ(boxes().shown[0].title, u"Share File Doesn't Exist"_s);
-    EXPECT_EQ(boxes().shown[0].icon, Icon::Critical);
+    EXPECT_EQ(boxes().lines(),
+              QStringList(u"Share File Doesn't Exist | Share file /nowhere/bdesk.db could not be "
+                          u"found.  Using local database instead.  Go to File->Multi-user "
+                          u"settings and check your share file settings. | Critical"_s));
     EXPECT_FALSE(session().useSharedFile);
     EXPECT_EQ(session().shareFileLocation, u""_s);
     EXPECT_EQ(session().dbPath, databasePath());
@@ -94,13 +91,11 @@ TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt) {
     Utility::RegSetString(u"lastDB"_s, deleted);
     boxes().texts.enqueue(databasePath());
     ASSERT_TRUE(modMain::Initialise());
-    ASSERT_EQ(boxes().shown.size(), 2);
-    EXPECT_EQ(boxes().shown[0].text,
-              u"Database "_s + deleted + u" does not exist.  Please select a database to open."_s);
-    EXPECT_EQ(boxes().shown[0].title, u"Missing / Invalid Database"_s);
-    EXPECT_EQ(boxes().shown[0].icon, Icon::Exclamation);
-    EXPECT_EQ(boxes().shown[1].kind, Kind::OpenFile);
-    EXPECT_EQ(boxes().shown[1].request.title, u"Open Database"_s);
+    EXPECT_EQ(
+        boxes().lines(),
+        (QStringList{u"Missing / Invalid Database | Database "_s + deleted +
+                         u" does not exist.  Please select a database to open. | Exclamation"_s,
+                     u"Open Database | "_s}));
     EXPECT_EQ(boxes().shown[1].request.folder, deleted);
     EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), databasePath());
     EXPECT_EQ(session().dbPath, databasePath());
@@ -123,9 +118,8 @@ TEST_F(InitialiseTest, AFileThatIsNoDatabaseEndsInTheStartupErrorBox) {
     Utility::RegSetString(u"lastDB"_s, junk.fileName());
     EXPECT_FALSE(modMain::Initialise());
     ASSERT_EQ(boxes().shown.size(), 1);
-    EXPECT_TRUE(boxes().shown[0].text.startsWith(
-        u"An error occured during the intilization:  modMain.loadCompanyInfo:  "_s));
-    EXPECT_EQ(boxes().shown[0].title, u"Startup Error"_s);
+    EXPECT_TRUE(boxes().lines()[0].startsWith(u"Startup Error | An error occured during the "
+                                              u"intilization:  modMain.loadCompanyInfo:  "_s));
     EXPECT_EQ(process().endProgramCalls, 1);
 }
 
@@ -156,10 +150,8 @@ protected:
 TEST_F(YearChangeTest, WithoutResetNumberingRunsOnAfterOneQuestion) {
     setResetNumberEOY(0);
     ASSERT_TRUE(modMain::Initialise());
-    ASSERT_EQ(boxes().shown.size(), 1);
-    EXPECT_EQ(boxes().shown[0].text, yearChangeText());
-    EXPECT_EQ(boxes().shown[0].title, u"Year Change"_s);
-    EXPECT_EQ(boxes().shown[0].icon, Icon::Information);
+    EXPECT_EQ(boxes().lines(),
+              QStringList(u"Year Change | "_s + yearChangeText() + u" | Information"_s));
     EXPECT_EQ(boxes().shown[0].buttons, Dialogs::Buttons::OkCancel);
     EXPECT_EQ(storedLastNumber(), 41); // the next receipt gets 42
 }

@@ -46,11 +46,6 @@ protected:
         BriskoTest::TearDown();
     }
 
-    static qint32 addPayee(const QString &name) {
-        return static_cast<qint32>(db::insertReturningKey(
-            u"INSERT INTO tblPayee (payeeName) VALUES (?) RETURNING payeeID"_s, {name}));
-    }
-
     // A receipt dated `date`; a Null payeeID leaves it without a customer row.
     static qint32 addReceipt(const QString &number, const QDateTime &date, const QVariant &payeeID,
                              Currency received = {}, Currency balance = {},

@@ -28,12 +28,6 @@ protected:
         return receipt.receiptID;
     }
 
-    static qint32 addPayee(const QString &name) {
-        return qint32(db::insertReturningKey(
-            QStringLiteral("INSERT INTO tblPayee (payeeName) VALUES (?) RETURNING payeeID"),
-            {name}));
-    }
-
     static qint32 lastNumberUsed(const QString &year) {
         return db::readFirst(QStringLiteral("SELECT lastNumberUsed FROM tblReceiptNumbering "
                                             "WHERE receiptYear = ?"),

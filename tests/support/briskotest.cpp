@@ -39,3 +39,8 @@ void BriskoTest::TearDown() {
     SettingsStore::useFile({});
     Paths::useDataFolder({});
 }
+
+qint32 BriskoTest::addPayee(const QString &name) {
+    return qint32(db::insertReturningKey(
+        u"INSERT INTO tblPayee (payeeName) VALUES (?) RETURNING payeeID"_s, {name}));
+}

@@ -22,6 +22,9 @@ protected:
     ScriptedDialogs &boxes() { return *m_dialogs; }
     ScriptedProcessControl &process() { return *m_process; }
 
+    // A customer row with only its name; gives its key.
+    static qint32 addPayee(const QString &name);
+
     // Runs `open`, which shows a modal screen of type Screen; once it shows,
     // `whileOpen` acts on it and is expected to close it.
     template <typename Screen, typename Open, typename Act>
