@@ -1,8 +1,8 @@
 #include "app/company.h"
 
-#include "app/briskoerror.h"
 #include "app/database.h"
-#include "output/mailsettings.h"
+#include "platform/briskoerror.h"
+#include "platform/settingsstore.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -82,7 +82,8 @@ bool loadCompanyInfo() {
         if (!row)
             return false;
         copyRow(*row, company());
-        company().mailServer = MailSettings::stored().mailServer;
+        // An empty server means that e-mail has not been set up.
+        company().mailServer = SettingsStore::read(SettingsKey::mailServer).toString();
         return true;
     });
 }

@@ -1,7 +1,7 @@
 #include "app/currency.h"
 
-#include "app/briskoerror.h"
 #include "app/runtimeformat.h"
+#include "platform/briskoerror.h"
 
 #include <QtNumeric>
 #include <cmath>

@@ -7,13 +7,20 @@
 #include <QSqlRecord>
 #include <QString>
 #include <QVariant>
+#include <functional>
+#include <memory>
 #include <optional>
 
-// The database session. Every operation opens the file named by the session's
-// connection string, runs its statement with bound values and closes it again,
-// so that several machines can share one file. A caller that needs several
+class QSqlQuery;
+
+// The database session. Every operation runs its statement with bound values
+// on one connection to the file named by the session's connection string. The
+// connection stays open and keeps its prepared statements, but holds no lock
+// between statements: each operation stands alone (autocommit), so that
+// several machines can share one file. When the connection string names
+// another file, the next operation opens that one. A caller that needs several
 // operations to land together opens a db::Transaction; operations run while it
-// stands join it instead of opening their own connection.
+// stands join it.
 //
 // The statements are SQLite's. Where older statements used another dialect the
 // mapping lives here, in one place: "TOP n" becomes "LIMIT ?", a "#date#"
@@ -57,7 +64,9 @@ QString dateText(const QDateTime &moment);
 QString dateText(const QDate &day); // the day at midnight
 
 // One row copied out of a result. The typed readers fail with the runtime's
-// "Invalid use of Null" when the column is Null, as the old code did.
+// "Invalid use of Null" when the column is Null, as the old code did. Reading
+// a column that the row does not have is a programming error, raised as
+// RuntimeError::NoSuchColumn with a message that names the column.
 class Row {
 public:
     Row() = default;
@@ -79,6 +88,9 @@ public:
     QString textOr(const QString &column, const QString &fallback) const;
 
 private:
+    QVariant field(const QString &column) const;    // the value; the column must exist
+    QVariant required(const QString &column) const; // the same, and not Null
+
     QSqlRecord m_record;
 };
 
@@ -117,6 +129,46 @@ int execute(const QString &sql, const Params &params = {});
 // Runs an "INSERT ... RETURNING key" and gives the new key.
 qint64 insertReturningKey(const QString &sql, const Params &params = {});
 
+// Closes the session's connection and forgets its prepared statements; the
+// next operation opens the file again. Called before the file is replaced or
+// another one is opened. Not while a Transaction stands on the session's file.
+void closeConnection();
+
+class Connection;
+
+// `text` ready to stand in a LIKE pattern: the wildcards '%' and '_', and the
+// backslash that escapes them, are escaped with a backslash so that they
+// match themselves. The statement ends the LIKE with ESCAPE '\'.
+QString escapeLike(const QString &text);
+
+// The current row of a statement by column position, as forEachRow hands it
+// on. The typed readers follow Row's rules.
+class Cells {
+public:
+    explicit Cells(const QSqlQuery &query)
+        : m_query(query) {}
+
+    bool isNull(int column) const;
+    QString text(int column) const;
+    qint32 int32(int column) const;
+
+private:
+    QVariant required(int column) const;
+
+    const QSqlQuery &m_query;
+};
+
+// Hands the rows of a statement to `visit` one at a time, keeping none: for
+// long lists read once into a model, where a Snapshot's copy of every row
+// with its column names costs more than the engine's walk. The statement
+// names its columns, and `visit` reads them by position.
+void forEachRow(const QString &sql, const Params &params,
+                const std::function<void(const Cells &)> &visit);
+
+// The bound value of a "LIKE ? ESCAPE '\\'" that finds `text` anywhere in the
+// column: '%', '_' and '\\' in the text are escaped (escapeLike), so that each matches itself.
+QString containingPattern(const QString &text);
+
 // Groups the operations run while it stands into one transaction on one
 // connection: BEGIN IMMEDIATE now, COMMIT on commit(), ROLLBACK when it goes
 // out of scope uncommitted. A Transaction opened inside another one joins it.
@@ -135,6 +187,7 @@ public:
     void commit();
 
 private:
+    std::unique_ptr<Connection> m_ownConnection; // on a file other than the session's
     bool m_owner = false;
     bool m_done = false;
 };

@@ -1,6 +1,6 @@
 #include "app/runtimeformat.h"
 
-#include "app/briskoerror.h"
+#include "platform/briskoerror.h"
 
 #include <QLocale>
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #include "app/schema.h"
 
-#include "app/briskoerror.h"
 #include "app/database.h"
+#include "platform/briskoerror.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -13,8 +13,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace Schema {
 namespace {
 
-// Money columns hold ten-thousandths, dates ISO text, flags 1 or 0. Names and
-// SKUs compare without regard to case, as users expect of a lookup.
+// Money columns hold ten-thousandths, dates ISO text, flags 1 or 0. Names,
+// SKUs and receipt numbers compare and sort without regard to case, as the
+// old engine compared all text; a password digest compares exactly.
 constexpr const char *kTables[] = {
     R"(CREATE TABLE tblSystem (
         companyName TEXT, address1 TEXT, address2 TEXT, city TEXT, state TEXT, zip TEXT,
@@ -26,7 +27,8 @@ constexpr const char *kTables[] = {
         hideAcctBalance INTEGER, useAutoComplete INTEGER, hideDiscountField INTEGER,
         isTaxExempt INTEGER, otherFieldName TEXT, usePOSPrinter INTEGER))",
     R"(CREATE TABLE tblReceipt (
-        receiptID INTEGER PRIMARY KEY AUTOINCREMENT, receiptNumber TEXT, receiptDate TEXT,
+        receiptID INTEGER PRIMARY KEY AUTOINCREMENT, receiptNumber TEXT COLLATE NOCASE,
+        receiptDate TEXT,
         payeeID INTEGER, amountDue INTEGER, amountReceived INTEGER, balanceRemaining INTEGER,
         checkNumber TEXT, paymentType INTEGER, receivedBy TEXT, status INTEGER,
         receiptDesc TEXT, otherPaymentDesc TEXT, amountTax INTEGER, amountOther INTEGER,
@@ -41,30 +43,40 @@ constexpr const char *kTables[] = {
         address1 TEXT, address2 TEXT, city TEXT, state TEXT, zip TEXT, phone TEXT,
         lastPurchaseDate TEXT, email TEXT))",
     R"(CREATE TABLE tblProduct (
-        productID INTEGER PRIMARY KEY AUTOINCREMENT, productName TEXT,
+        productID INTEGER PRIMARY KEY AUTOINCREMENT, productName TEXT COLLATE NOCASE,
         productSKU TEXT COLLATE NOCASE, cost INTEGER, productStatus INTEGER, productDesc TEXT))",
     R"(CREATE TABLE tblService (
-        serviceID INTEGER PRIMARY KEY AUTOINCREMENT, shortName TEXT, longDesc TEXT,
+        serviceID INTEGER PRIMARY KEY AUTOINCREMENT, shortName TEXT COLLATE NOCASE, longDesc TEXT,
         defaultCost INTEGER))",
     R"(CREATE TABLE tblPayMethod (
-        payMethodID INTEGER PRIMARY KEY AUTOINCREMENT, methodName TEXT, payMethodStatus INTEGER))",
+        payMethodID INTEGER PRIMARY KEY AUTOINCREMENT, methodName TEXT COLLATE NOCASE,
+        payMethodStatus INTEGER))",
     R"(CREATE TABLE tblUser (
-        userID INTEGER PRIMARY KEY AUTOINCREMENT, username TEXT, password TEXT,
+        userID INTEGER PRIMARY KEY AUTOINCREMENT, username TEXT COLLATE NOCASE, password TEXT,
         canEdit INTEGER, canDelete INTEGER, canVoid INTEGER, status INTEGER, isAdmin INTEGER,
         canRunReports INTEGER))",
-    R"(CREATE TABLE tblStatus (statusID INTEGER PRIMARY KEY, statusName TEXT))",
+    R"(CREATE TABLE tblStatus (statusID INTEGER PRIMARY KEY, statusName TEXT COLLATE NOCASE))",
     R"(CREATE TABLE tblReceiptNumbering (receiptYear TEXT, lastNumberUsed INTEGER))",
 };
 
 // For the look-ups that run on every keystroke or list fill.
 constexpr const char *kIndexes[] = {
-    "CREATE INDEX idxPayeeName ON tblPayee (payeeName)",
-    "CREATE INDEX idxReceiptPayee ON tblReceipt (payeeID)",
-    "CREATE INDEX idxReceiptDate ON tblReceipt (receiptDate)",
-    "CREATE INDEX idxReceiptNumber ON tblReceipt (receiptNumber)",
-    "CREATE INDEX idxReceiptProductReceipt ON tblReceipt_Product (receiptID)",
-    "CREATE INDEX idxProductSKU ON tblProduct (productSKU)",
-    "CREATE INDEX idxReceiptNumberingYear ON tblReceiptNumbering (receiptYear)",
+    // The customer lists read a range of names in order; the index holds
+    // their columns too, so that a list of every customer never visits the table.
+    "CREATE INDEX IF NOT EXISTS idxPayeeName ON tblPayee (payeeName, address1, city, state, phone)",
+    // A customer's receipts; it holds what the balance reads, so that the
+    // balance never visits the table.
+    "CREATE INDEX IF NOT EXISTS idxReceiptPayee ON tblReceipt (payeeID, receiptType, status, "
+    "amountDue, "
+    "amountTax, amountOther, amountDiscount, amountReceived)",
+    "CREATE INDEX IF NOT EXISTS idxReceiptDate ON tblReceipt (receiptDate)",
+    "CREATE INDEX IF NOT EXISTS idxReceiptNumber ON tblReceipt (receiptNumber)",
+    "CREATE INDEX IF NOT EXISTS idxReceiptProductReceipt ON tblReceipt_Product (receiptID)",
+    "CREATE INDEX IF NOT EXISTS idxProductSKU ON tblProduct (productSKU)",
+    "CREATE INDEX IF NOT EXISTS idxProductStatusSKU ON tblProduct (productStatus, productSKU)",
+    "CREATE INDEX IF NOT EXISTS idxReceiptProductProduct ON tblReceipt_Product (productID)",
+    "CREATE INDEX IF NOT EXISTS idxReceiptPaymentType ON tblReceipt (paymentType)",
+    "CREATE INDEX IF NOT EXISTS idxReceiptNumberingYear ON tblReceiptNumbering (receiptYear)",
 };
 
 void insertSeedRows() {
@@ -85,30 +97,51 @@ void insertSeedRows() {
                 {QString::fromUtf16(kCurrentVersion)});
 }
 
-} // namespace
+enum class Numbering { Empty, ThisYear };
 
-void createDatabase(const QString &path) {
+// Writes the whole schema into the file at `path`, new or empty, at once.
+void writeNewDatabase(const QString &path, Numbering numbering) {
+    db::Transaction transaction(path, db::Transaction::Open::CreateIfMissing);
+    for (const char *statement : kTables)
+        db::execute(QString::fromUtf8(statement));
+    createIndexes();
+    insertSeedRows();
+    if (numbering == Numbering::ThisYear) {
+        const QString year = QString::number(QDate::currentDate().year()).right(2);
+        db::execute(
+            u"INSERT INTO tblReceiptNumbering (receiptYear, lastNumberUsed) VALUES (?, 0)"_s,
+            {year});
+    }
+    transaction.commit();
+}
+
+void refuseExistingFile(const QString &path) {
     if (QFileInfo::exists(path)) {
         throw BriskoError(RuntimeError::FileAlreadyExists,
                           QCoreApplication::translate("Schema", "File already exists"));
     }
     QDir().mkpath(QFileInfo(path).absolutePath());
-    db::Transaction transaction(path, db::Transaction::Open::CreateIfMissing);
-    for (const char *statement : kTables)
-        db::execute(QString::fromUtf8(statement));
+}
+
+} // namespace
+
+void createDatabase(const QString &path) {
+    refuseExistingFile(path);
+    writeNewDatabase(path, Numbering::Empty);
+}
+
+void createIndexes() {
     for (const char *statement : kIndexes)
         db::execute(QString::fromUtf8(statement));
-    insertSeedRows();
-    transaction.commit();
 }
 
 void createDeliveredDatabase(const QString &path) {
-    createDatabase(path);
-    db::Transaction transaction(path);
-    const QString year = QString::number(QDate::currentDate().year()).right(2);
-    db::execute(u"INSERT INTO tblReceiptNumbering (receiptYear, lastNumberUsed) VALUES (?, 0)"_s,
-                {year});
-    transaction.commit();
+    refuseExistingFile(path);
+    writeNewDatabase(path, Numbering::ThisYear);
+}
+
+void setUpEmptyFile(const QString &path) {
+    writeNewDatabase(path, Numbering::ThisYear);
 }
 
 } // namespace Schema

@@ -1,6 +1,6 @@
 #include "app/session.h"
 
-#include "admin/systemuser.h"
+#include "platform/processcontrol.h"
 
 Session &session() {
     static Session state;
@@ -14,3 +14,12 @@ void resetSession() {
 void setConnectionString(const QString &path) {
     session().connectionString = path;
 }
+
+namespace modMain {
+
+void EndProgram() {
+    session().shuttingDown = true;
+    processControl().endProgram();
+}
+
+} // namespace modMain

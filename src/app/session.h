@@ -18,6 +18,8 @@ struct Session {
     bool restoreCompleted = false;
     bool shuttingDown = false;
     int lastReceiptID = 0; // key of the last receipt saved in this run
+    // The file's version as the upgrade chain learnt it; never cleared.
+    QString dbVersionFound;
 };
 
 Session &session();
@@ -27,3 +29,10 @@ void resetSession();
 
 // Points every later database operation at `path`.
 void setConnectionString(const QString &path);
+
+namespace modMain {
+
+// Ends the program at once, from anywhere, without questions.
+void EndProgram();
+
+} // namespace modMain

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+// The start-up is the one place in app/ that calls up into the other
+// subsystems: it needs the receipt year and the database chooser before any
+// screen exists. Nothing else in app/ includes a higher layer.
 namespace modMain {
 
 // Settles everything the program needs before any screen works: the share
@@ -12,8 +15,5 @@ bool Initialise();
 // Reads useSharedFile and shareFileLocation into the session; a share file
 // that has gone missing falls back to the local database for this run.
 void loadShareSettings();
-
-// Ends the program at once, from anywhere, without questions.
-void EndProgram();
 
 } // namespace modMain

@@ -1,6 +1,6 @@
 #include "platform/diag.h"
 
-#include "app/briskoerror.h"
+#include "platform/briskoerror.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

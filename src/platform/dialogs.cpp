@@ -93,7 +93,9 @@ QString WidgetDialogs::openFile(const FileRequest &request) {
 QString WidgetDialogs::saveFile(const FileRequest &request) {
     const QString start =
         request.fileName.isEmpty() ? request.folder : request.folder + u'/' + request.fileName;
-    return QFileDialog::getSaveFileName(owner(), request.title, start, request.filter);
+    // Brisko's callers ask their own question about a file that exists.
+    return QFileDialog::getSaveFileName(owner(), request.title, start, request.filter, nullptr,
+                                        QFileDialog::DontConfirmOverwrite);
 }
 
 QString WidgetDialogs::chooseFolder(const QString &title) {

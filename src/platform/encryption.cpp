@@ -1,6 +1,7 @@
 #include "platform/encryption.h"
 
-#include "app/briskoerror.h"
+#include "platform/briskoerror.h"
+#include "platform/trim.h"
 
 #include <QCryptographicHash>
 #include <QPasswordDigestor>
@@ -11,7 +12,7 @@ namespace Utility {
 
 QString EncryptString(const QString &text, const QString &key) {
     return reraiseWithPrefix(u"Utility.EncryptString:  "_s, [&] {
-        const QString trimmed = text.trimmed();
+        const QString trimmed = Trim(text);
         if (trimmed.isEmpty())
             return QString();
         constexpr int rounds = 100000;

@@ -1,17 +1,33 @@
 #include "platform/paths.h"
 
+#include "shippedfiles.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString &overrideFolder() {
+QString &overrideDataFolder() {
     static QString folder;
     return folder;
+}
+
+QString &overrideResourceFolder() {
+    static QString folder;
+    return folder;
+}
+
+QStringList missingIn(const QString &folder) {
+    QStringList missing;
+    std::copy_if(
+        kShippedFiles.cbegin(), kShippedFiles.cend(), std::back_inserter(missing),
+        [&folder](const QString &file) { return !QFileInfo::exists(folder + u'/' + file); });
+    return missing;
 }
 
 } // namespace
@@ -19,8 +35,8 @@ QString &overrideFolder() {
 namespace Paths {
 
 QString dataFolder() {
-    if (!overrideFolder().isEmpty())
-        return overrideFolder();
+    if (!overrideDataFolder().isEmpty())
+        return overrideDataFolder();
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
@@ -36,15 +52,39 @@ QString backupsFolder() {
     return dataFolder() + u"/backups"_s;
 }
 
+QStringList resourceCandidates() {
+    const QString programFolder = QCoreApplication::applicationDirPath();
+    return {programFolder, QDir::cleanPath(programFolder + u"/../share/brisko"_s)};
+}
+
+// With nothing missing anywhere, or as much missing everywhere, the share
+// folder wins: it is where an installation keeps them.
 QString resourceFolder() {
-    const QString beside = QCoreApplication::applicationDirPath();
-    if (QFileInfo::exists(beside + u"/reports"_s))
-        return beside;
-    return QDir::cleanPath(beside + u"/../share/brisko"_s);
+    if (!overrideResourceFolder().isEmpty())
+        return overrideResourceFolder();
+    const QStringList candidates = resourceCandidates();
+    QString best = candidates.last();
+    qsizetype fewestMissing = missingIn(best).size();
+    for (const QString &folder : candidates) {
+        const qsizetype missing = missingIn(folder).size();
+        if (missing < fewestMissing) {
+            best = folder;
+            fewestMissing = missing;
+        }
+    }
+    return best;
+}
+
+QStringList missingResources() {
+    return missingIn(resourceFolder());
 }
 
 void useDataFolder(const QString &folder) {
-    overrideFolder() = folder;
+    overrideDataFolder() = folder;
+}
+
+void useResourceFolder(const QString &folder) {
+    overrideResourceFolder() = folder;
 }
 
 } // namespace Paths

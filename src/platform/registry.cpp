@@ -1,6 +1,7 @@
 #include "platform/registry.h"
 
 #include "platform/settingsstore.h"
+#include "platform/trim.h"
 
 namespace Utility {
 
@@ -8,7 +9,7 @@ QString RegGetString(const QString &valueName) {
     const QVariant value = SettingsStore::read(valueName);
     if (value.typeId() != QMetaType::QString)
         return {};
-    return value.toString().trimmed();
+    return Trim(value.toString());
 }
 
 void RegSetString(const QString &valueName, const QString &value) {

@@ -1,5 +1,8 @@
 #include "platform/settingsstore.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <memory>
 
@@ -36,6 +39,23 @@ void remove(const QString &key) {
     auto settings = open();
     settings->remove(key);
     settings->sync();
+}
+
+void restrictToOwner() {
+    const auto settings = open();
+#ifdef Q_OS_WIN
+    // The registry keeps its own rights, per user.
+    if (settings->format() == QSettings::NativeFormat)
+        return;
+#endif
+    QFile file(settings->fileName());
+    if (!file.exists()) {
+        QDir().mkpath(QFileInfo(file).absolutePath());
+        if (!file.open(QIODevice::WriteOnly))
+            return;
+        file.close();
+    }
+    file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
 void useFile(const QString &iniPath) {

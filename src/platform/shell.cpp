@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTimer>
 #include <QUrl>
 
@@ -14,15 +15,15 @@ namespace {
 
 // Selects the text once the focus has settled: a mouse press that gave the
 // focus would otherwise place the cursor and undo the selection.
-class SelectAllOnFocus final : public QObject {
+template <typename TextBox> class SelectAllOnFocus final : public QObject {
 public:
     using QObject::QObject;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override {
         if (event->type() == QEvent::FocusIn) {
-            auto *textBox = static_cast<QLineEdit *>(watched);
-            QTimer::singleShot(0, textBox, [textBox] { selectAllText(textBox); });
+            auto *textBox = static_cast<TextBox *>(watched);
+            QTimer::singleShot(0, textBox, [textBox] { textBox->selectAll(); });
         }
         return false;
     }
@@ -46,7 +47,11 @@ void selectAllText(QLineEdit *textBox) {
 }
 
 void selectAllOnFocus(QLineEdit *textBox) {
-    textBox->installEventFilter(new SelectAllOnFocus(textBox));
+    textBox->installEventFilter(new SelectAllOnFocus<QLineEdit>(textBox));
+}
+
+void selectAllOnFocus(QPlainTextEdit *textBox) {
+    textBox->installEventFilter(new SelectAllOnFocus<QPlainTextEdit>(textBox));
 }
 
 } // namespace Utility

@@ -3,6 +3,7 @@
 #include <QString>
 
 class QLineEdit;
+class QPlainTextEdit;
 class QWidget;
 
 namespace Utility {
@@ -18,5 +19,6 @@ void selectAllText(QLineEdit *textBox);
 
 // Makes `textBox` select its whole text whenever it gets the focus.
 void selectAllOnFocus(QLineEdit *textBox);
+void selectAllOnFocus(QPlainTextEdit *textBox);
 
 } // namespace Utility

@@ -1,6 +1,6 @@
 #include "receipts/receipt.h"
 
-#include "app/briskoerror.h"
+#include "platform/briskoerror.h"
 
 #include <limits>
 

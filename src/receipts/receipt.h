@@ -48,6 +48,21 @@ public:
     qint16 serviceID = 0;
     QString voidReason;
 
+    // Payment methods of tblPayMethod. "Other" has no row: each list of
+    // payment types adds it by itself, as the value 0.
+    static constexpr qint16 OtherPaymentType = 0;
+    static constexpr qint16 AllPayMethods = -1; // status filter: every method
+    static constexpr qint16 PayMethodInactive = 0;
+    static constexpr qint16 PayMethodActive = 1;
+
+    // Methods of the filter's status (AllPayMethods for all), by name.
+    db::Snapshot GetPaymentMethods(qint16 filter);
+    // Inserts when payMethodID is 0, else updates; gives the row's key.
+    qint32 WritePaymentMethod(qint32 payMethodID, const QString &methodName, qint16 status);
+    bool DeletePaymentMethod(qint32 payMethodID);
+    // Whether any receipt is paid by the method; receipts alone count.
+    bool PaymentTypeIsUsed(qint32 payMethodID);
+
     // Record and lines.
     bool writeReceipt();
     bool deleteReceipt(qint32 receiptID);
@@ -67,10 +82,25 @@ public:
     qint32 GetLastReceiptNumber();
     bool updateReceiptNumberUsed(const QString &year, qint32 number);
 
+    // The arguments of GetReceipts by name, so that a call reads as what it
+    // asks for: GetReceipts({.startDate = today, .endDate = today}). Every
+    // member has an initializer, so that any of them may be left out.
+    struct GetReceiptsArgs {
+        QString startDate{}; // the user's short date text; empty for no bound
+        QString endDate{};
+        qint16 sortOrder = 0; // 0 by date and number, 1 by number, newest first
+        qint16 maxRows = 0;   // 0 for all
+        QString payeeName{};
+        QString receiptNumber{};
+        bool useCustomFields = false; // search this object's custom fields too
+        bool includeOpening = false;  // include opening-balance records
+    };
+
     // Lists. Dates are in the user's short date text; an empty filter is no filter.
     db::Snapshot GetReceipts(const QString &startDate, const QString &endDate, qint16 sortOrder,
                              qint16 maxRows, const QString &payeeName, const QString &receiptNumber,
                              bool useCustomFields, bool includeOpening);
+    db::Snapshot GetReceipts(const GetReceiptsArgs &args);
     db::Snapshot GetCustomerReceipts(qint32 payeeID);
     db::Snapshot getReceiptProducts(qint32 receiptID);
     qint32 GetReceiptCount();

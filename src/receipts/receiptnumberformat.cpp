@@ -1,9 +1,9 @@
 #include "receipts/receipt.h"
 
-#include "app/briskoerror.h"
 #include "app/company.h"
 #include "app/runtimeformat.h"
-#include "app/startup.h"
+#include "app/session.h"
+#include "platform/briskoerror.h"
 #include "platform/dialogs.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 #include "receipts/receipt.h"
 
-#include "app/briskoerror.h"
 #include "app/runtimeformat.h"
+#include "platform/briskoerror.h"
 #include "receipts/receiptnumberlock.h"
 
 #include <QCoreApplication>

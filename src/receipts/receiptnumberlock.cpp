@@ -1,7 +1,7 @@
 #include "receipts/receiptnumberlock.h"
 
-#include "app/briskoerror.h"
 #include "app/session.h"
+#include "platform/briskoerror.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "receipts/receipt.h"
 
-#include "app/briskoerror.h"
 #include "app/runtimeformat.h"
+#include "platform/briskoerror.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -87,6 +87,11 @@ db::Snapshot Receipt::GetReceipts(const QString &startDate, const QString &endDa
         }
         return db::select(sql, params);
     });
+}
+
+db::Snapshot Receipt::GetReceipts(const GetReceiptsArgs &args) {
+    return GetReceipts(args.startDate, args.endDate, args.sortOrder, args.maxRows, args.payeeName,
+                       args.receiptNumber, args.useCustomFields, args.includeOpening);
 }
 
 qint32 Receipt::GetReceiptCount() {

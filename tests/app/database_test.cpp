@@ -1,8 +1,13 @@
 #include "app/database.h"
+#include "app/schema.h"
 #include "app/session.h"
 #include "support/briskotest.h"
 
+#include <QFile>
 #include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -40,13 +45,47 @@ TEST_F(DatabaseTest, MoneyAndDatesAreStoredExactly) {
     EXPECT_EQ(row->dateTime(u"receiptDate"_s), afternoon);
 }
 
-TEST_F(DatabaseTest, ReadingANullAsAValueFailsTheRuntimeWay) {
+TEST_F(DatabaseTest, ReadingANullFailsTheRuntimeWayAndAMisspeltColumnSaysSo) {
     addPayee(u"Ann"_s);
     const auto row = db::readFirst(u"SELECT city FROM tblPayee"_s);
     const BriskoError error = errorOf([&] { row->text(u"city"_s); });
     EXPECT_EQ(error.number(), RuntimeError::InvalidUseOfNull);
     EXPECT_EQ(error.description(), u"Invalid use of Null"_s);
     EXPECT_EQ(row->textOr(u"city"_s, u"none"_s), u"none"_s);
+
+    const BriskoError typo = errorOf([&] { row->textOr(u"cty"_s, u"none"_s); });
+    EXPECT_EQ(typo.number(), RuntimeError::NoSuchColumn);
+    EXPECT_EQ(typo.description(), u"Programming error: the row has no column named 'cty'."_s);
+}
+
+TEST_F(DatabaseTest, TheOpenConnectionHoldsNoLockAndFollowsTheFile) {
+    addPayee(u"Ann"_s);
+    ASSERT_TRUE(db::readFirst(u"SELECT payeeName FROM tblPayee"_s));
+    {
+        // Another machine may take the whole file at once between two statements.
+        QSqlDatabase other = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"other machine"_s);
+        other.setDatabaseName(databasePath());
+        other.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=0"_s);
+        ASSERT_TRUE(other.open());
+        QSqlQuery query(other);
+        EXPECT_TRUE(query.exec(u"BEGIN EXCLUSIVE"_s)) << query.lastError().text().toStdString();
+        EXPECT_TRUE(query.exec(u"COMMIT"_s));
+    }
+    QSqlDatabase::removeDatabase(u"other machine"_s);
+
+    const QString second = tempPath(u"second.db"_s);
+    Schema::createDatabase(second);
+    setConnectionString(second);
+    EXPECT_EQ(payeeCount(), 0);
+    addPayee(u"Zed"_s);
+
+    // A file copied over the session's own is read once the connection is closed.
+    setConnectionString(databasePath());
+    EXPECT_EQ(payeeCount(), 1);
+    db::closeConnection();
+    ASSERT_TRUE(QFile::remove(databasePath()));
+    ASSERT_TRUE(QFile::copy(second, databasePath()));
+    EXPECT_EQ(db::readFirst(u"SELECT payeeName FROM tblPayee"_s)->text(u"payeeName"_s), u"Zed"_s);
 }
 
 TEST_F(DatabaseTest, FailuresCarryTheEnginesTextAndAMissingFileIsNotCreated) {

@@ -6,6 +6,7 @@
 #include "platform/registry.h"
 #include "support/briskotest.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -19,7 +20,7 @@ class InitialiseTest : public BriskoTest {
 protected:
     void SetUp() override {
         BriskoTest::SetUp();
-        Utility::RegSetString(u"lastDB"_s, databasePath());
+        Utility::RegSetString(SettingsKey::lastDB, databasePath());
     }
 
     void numberThisYear(int lastNumberUsed = 0) {
@@ -32,6 +33,13 @@ protected:
         db::execute(u"UPDATE tblSystem SET resetNumberEOY = ?"_s, {value});
     }
 
+    QString writtenFile(const QString &name, const QByteArray &content) const {
+        QFile file(tempPath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+
     // The last number stored for this year, or -1 when it has no row.
     int storedLastNumber() {
         const auto row =
@@ -42,7 +50,7 @@ protected:
 };
 
 TEST_F(InitialiseTest, TheFirstStartOnAnAccountPutsANewDatabaseInPlace) {
-    Utility::RegSetString(u"lastDB"_s, {});
+    Utility::RegSetString(SettingsKey::lastDB, {});
     ASSERT_TRUE(modMain::Initialise());
     const QString delivered = Paths::defaultDatabasePath();
     EXPECT_TRUE(QFileInfo::exists(delivered));
@@ -55,8 +63,8 @@ TEST_F(InitialiseTest, TheFirstStartOnAnAccountPutsANewDatabaseInPlace) {
 
 TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly) {
     numberThisYear();
-    Utility::RegSetString(u"useSharedFile"_s, u"True"_s);
-    Utility::RegSetString(u"shareFileLocation"_s, u"/nowhere/bdesk.db"_s);
+    Utility::RegSetString(SettingsKey::useSharedFile, u"True"_s);
+    Utility::RegSetString(SettingsKey::shareFileLocation, u"/nowhere/bdesk.db"_s);
     ASSERT_TRUE(modMain::Initialise());
     EXPECT_EQ(boxes().lines(),
               QStringList(u"Share File Doesn't Exist | Share file /nowhere/bdesk.db could not be "
@@ -65,20 +73,20 @@ TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly) {
     EXPECT_FALSE(session().useSharedFile);
     EXPECT_EQ(session().shareFileLocation, u""_s);
     EXPECT_EQ(session().dbPath, databasePath());
-    EXPECT_EQ(Utility::RegGetString(u"useSharedFile"_s), u"True"_s);
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::useSharedFile), u"True"_s);
 }
 
 TEST_F(InitialiseTest, AShareSettingIsReadAsAYesOrNoOrQuietlyMeansLocal) {
     numberThisYear();
-    Utility::RegSetString(u"lastDB"_s, u"/elsewhere/local.db"_s);
-    Utility::RegSetString(u"useSharedFile"_s, u" true "_s);
-    Utility::RegSetString(u"shareFileLocation"_s, databasePath());
+    Utility::RegSetString(SettingsKey::lastDB, u"/elsewhere/local.db"_s);
+    Utility::RegSetString(SettingsKey::useSharedFile, u" true "_s);
+    Utility::RegSetString(SettingsKey::shareFileLocation, databasePath());
     ASSERT_TRUE(modMain::Initialise());
     EXPECT_TRUE(session().useSharedFile);
     EXPECT_EQ(session().dbPath, databasePath());
 
-    Utility::RegSetString(u"lastDB"_s, databasePath());
-    Utility::RegSetString(u"useSharedFile"_s, u"perhaps"_s);
+    Utility::RegSetString(SettingsKey::lastDB, databasePath());
+    Utility::RegSetString(SettingsKey::useSharedFile, u"perhaps"_s);
     ASSERT_TRUE(modMain::Initialise());
     EXPECT_FALSE(session().useSharedFile);
     EXPECT_EQ(session().shareFileLocation, u""_s);
@@ -88,7 +96,7 @@ TEST_F(InitialiseTest, AShareSettingIsReadAsAYesOrNoOrQuietlyMeansLocal) {
 TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt) {
     numberThisYear();
     const QString deleted = tempPath(u"deleted.db"_s);
-    Utility::RegSetString(u"lastDB"_s, deleted);
+    Utility::RegSetString(SettingsKey::lastDB, deleted);
     boxes().texts.enqueue(databasePath());
     ASSERT_TRUE(modMain::Initialise());
     EXPECT_EQ(
@@ -97,37 +105,77 @@ TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt) {
                          u" does not exist.  Please select a database to open. | Exclamation"_s,
                      u"Open Database | "_s}));
     EXPECT_EQ(boxes().shown[1].request.folder, deleted);
-    EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), databasePath());
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::lastDB), databasePath());
     EXPECT_EQ(session().dbPath, databasePath());
 }
 
 TEST_F(InitialiseTest, CancellingTheChooserEndsSilently) {
-    Utility::RegSetString(u"lastDB"_s, tempPath(u"deleted.db"_s));
+    Utility::RegSetString(SettingsKey::lastDB, tempPath(u"deleted.db"_s));
     EXPECT_FALSE(modMain::Initialise());
     EXPECT_EQ(boxes().shown.size(), 2); // the box and the chooser, nothing after
     EXPECT_EQ(process().endProgramCalls, 1);
     EXPECT_TRUE(session().shuttingDown);
-    EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), tempPath(u"deleted.db"_s));
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::lastDB), tempPath(u"deleted.db"_s));
 }
 
-TEST_F(InitialiseTest, AFileThatIsNoDatabaseEndsInTheStartupErrorBox) {
-    QFile junk(tempPath(u"junk.db"_s));
-    ASSERT_TRUE(junk.open(QIODevice::WriteOnly));
-    junk.write(QByteArray(4096, 'x'));
-    junk.close();
-    Utility::RegSetString(u"lastDB"_s, junk.fileName());
+TEST_F(InitialiseTest, AFolderCountsAsAMissingFile) {
+    const QString folder = tempPath(u"folder.db"_s);
+    ASSERT_TRUE(QDir().mkpath(folder));
+    Utility::RegSetString(SettingsKey::lastDB, folder);
     EXPECT_FALSE(modMain::Initialise());
-    ASSERT_EQ(boxes().shown.size(), 1);
-    EXPECT_TRUE(boxes().lines()[0].startsWith(u"Startup Error | An error occured during the "
-                                              u"intilization:  modMain.loadCompanyInfo:  "_s));
+    EXPECT_EQ(boxes().titles(), (QStringList{u"Missing / Invalid Database"_s, u"Open Database"_s}));
+}
+
+TEST_F(InitialiseTest, AFileThatIsNoBriskoDatabaseOffersTheChooserUntilOneOpens) {
+    numberThisYear();
+    const QString junk = writtenFile(u"junk.db"_s, QByteArray(4096, 'x'));
+    const QString foreign = tempPath(u"foreign.db"_s);
+    {
+        db::Transaction other(foreign, db::Transaction::Open::CreateIfMissing);
+        db::execute(u"CREATE TABLE notes (text TEXT)"_s);
+        other.commit();
+    }
+    Utility::RegSetString(SettingsKey::lastDB, junk);
+    boxes().texts << foreign << databasePath();
+    ASSERT_TRUE(modMain::Initialise());
+    const QString error = u"Startup Error | An error occured during the intilization:  "_s;
+    EXPECT_EQ(
+        boxes().lines(),
+        (QStringList{error + u"file is not a database | Critical"_s, u"Open Database | "_s,
+                     error + u"no such table: tblSystem | Critical"_s, u"Open Database | "_s}));
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::lastDB), databasePath());
+    EXPECT_EQ(session().connectionString, databasePath());
+
+    boxes().shown.clear();
+    Utility::RegSetString(SettingsKey::lastDB, junk);
+    EXPECT_FALSE(modMain::Initialise());
+    EXPECT_EQ(boxes().titles(), (QStringList{u"Startup Error"_s, u"Open Database"_s}));
     EXPECT_EQ(process().endProgramCalls, 1);
+}
+
+TEST_F(InitialiseTest, AnEmptyFileBecomesANewDatabaseWhenTheOwnerAgrees) {
+    const QString empty = writtenFile(u"empty.db"_s, {});
+    Utility::RegSetString(SettingsKey::lastDB, empty);
+    boxes().answers << Answer::No;
+    EXPECT_FALSE(modMain::Initialise()); // No: the chooser, here cancelled
+    EXPECT_EQ(boxes().titles(), (QStringList{u"Missing / Invalid Database"_s, u"Open Database"_s}));
+    EXPECT_EQ(QFileInfo(empty).size(), 0);
+
+    boxes().shown.clear();
+    ASSERT_TRUE(modMain::Initialise());
+    EXPECT_EQ(boxes().lines(), QStringList(u"Missing / Invalid Database | The file "_s + empty +
+                                           u" is empty. Create a new Brisko database in it? | "
+                                           u"Question"_s));
+    EXPECT_EQ(session().dbPath, empty);
+    EXPECT_EQ(db::readFirst(u"SELECT dbVersion FROM tblSystem"_s)->text(u"dbVersion"_s),
+              u"4.2.5"_s);
 }
 
 TEST_F(InitialiseTest, TheWizardIsDueUntilFirstRunHoldsAValue) {
     numberThisYear();
     ASSERT_TRUE(modMain::Initialise());
     EXPECT_TRUE(session().firstRunFlag);
-    Utility::RegSetString(u"firstRun"_s, u"no"_s);
+    Utility::RegSetString(SettingsKey::firstRun, u"no"_s);
     ASSERT_TRUE(modMain::Initialise());
     EXPECT_FALSE(session().firstRunFlag);
 }

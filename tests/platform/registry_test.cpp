@@ -8,15 +8,17 @@ namespace {
 
 using MachineSettingsTest = BriskoTest;
 
-TEST_F(MachineSettingsTest, ValuesComeBackTrimmedAndMissingOrOddOnesEmpty) {
-    Utility::RegSetString(u"lastDB"_s, u"  /srv/shop/bdesk.db \t"_s);
-    EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), u"/srv/shop/bdesk.db"_s);
-    EXPECT_EQ(Utility::RegGetString(u"firstRun"_s), u""_s);
-    SettingsStore::write(u"useSharedFile"_s, QStringList{u"True"_s, u"False"_s});
-    EXPECT_EQ(Utility::RegGetString(u"useSharedFile"_s), u""_s);
+TEST_F(MachineSettingsTest, ValuesComeBackTrimmedOfSpacesAndMissingOrOddOnesEmpty) {
+    Utility::RegSetString(SettingsKey::lastDB, u"  /srv/shop/bdesk.db  "_s);
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::lastDB), u"/srv/shop/bdesk.db"_s);
+    Utility::RegSetString(SettingsKey::lastDB, u" /srv/shop/bdesk.db\t"_s);
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::lastDB), u"/srv/shop/bdesk.db\t"_s);
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::firstRun), u""_s);
+    SettingsStore::write(SettingsKey::useSharedFile, QStringList{u"True"_s, u"False"_s});
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::useSharedFile), u""_s);
 
     // The process may end straight after a write, so nothing may wait for a sync.
-    Utility::RegSetString(u"firstRun"_s, u"no"_s);
+    Utility::RegSetString(SettingsKey::firstRun, u"no"_s);
     QFile file(tempPath(u"settings.ini"_s));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().contains("firstRun=no"));

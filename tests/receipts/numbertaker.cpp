@@ -2,8 +2,8 @@
 // share would: numbertaker <database file> <year> <count>. Prints each number
 // taken on a line of its own. A take that finds the lock busy for three
 // seconds is tried again, as a user would save again.
-#include "app/briskoerror.h"
 #include "app/session.h"
+#include "platform/briskoerror.h"
 #include "receipts/receipt.h"
 
 #include <QCoreApplication>

@@ -46,16 +46,15 @@ protected:
 };
 
 TEST_F(ReceiptQueriesTest, DateRangeEndsAtMidnightOfTheEndDay) {
-    const db::Snapshot rows = terms.GetReceipts(day(24), day(25), 0, 0, {}, {}, false, false);
+    const db::Snapshot rows = terms.GetReceipts({.startDate = day(24), .endDate = day(25)});
     EXPECT_EQ(numbers(rows), (QStringList{u"00003"_s, u"00004"_s, u"00005"_s}));
     EXPECT_EQ(rows.at(0).text(u"payeeName"_s), u"Goldsmith"_s);
     EXPECT_EQ(rows.at(0).text(u"statusName"_s), u"Issued"_s);
 
-    EXPECT_EQ(numbers(terms.GetReceipts(day(26), {}, 0, 0, {}, {}, false, false)),
-              (QStringList{u"000050"_s}));
+    EXPECT_EQ(numbers(terms.GetReceipts({.startDate = day(26)})), (QStringList{u"000050"_s}));
 
     // Sorted by number, newest first, and cut at maxRows.
-    EXPECT_EQ(numbers(terms.GetReceipts({}, {}, 1, 3, {}, {}, false, false)),
+    EXPECT_EQ(numbers(terms.GetReceipts({.sortOrder = 1, .maxRows = 3})),
               (QStringList{u"00007"_s, u"00006"_s, u"000050"_s}));
 }
 

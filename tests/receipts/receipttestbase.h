@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/briskoerror.h"
 #include "app/session.h"
+#include "platform/briskoerror.h"
 #include "receipts/receipt.h"
 #include "support/briskotest.h"
 

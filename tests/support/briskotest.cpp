@@ -3,6 +3,7 @@
 #include "app/company.h"
 #include "app/schema.h"
 #include "app/session.h"
+#include "platform/keychain.h"
 #include "platform/paths.h"
 #include "platform/settingsstore.h"
 
@@ -17,6 +18,8 @@ void BriskoTest::SetUp() {
     resetCompany();
     SettingsStore::useFile(m_dir.filePath(u"settings.ini"_s));
     Paths::useDataFolder(m_dir.filePath(u"userdata"_s));
+    // A test machine may have no keychain; the tests that want one bring it.
+    installKeychain(std::make_unique<NoKeychain>());
 
     auto dialogs = std::make_unique<ScriptedDialogs>();
     m_dialogs = dialogs.get();
@@ -36,6 +39,7 @@ void BriskoTest::SetUp() {
 void BriskoTest::TearDown() {
     for (QWidget *widget : QApplication::topLevelWidgets())
         widget->close();
+    db::closeConnection();
     SettingsStore::useFile({});
     Paths::useDataFolder({});
 }

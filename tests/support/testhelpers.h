@@ -1,7 +1,9 @@
 #pragma once
 
-#include "app/briskoerror.h"
+#include "platform/briskoerror.h"
 
+#include <QByteArray>
+#include <QFile>
 #include <QString>
 #include <ostream>
 
@@ -18,4 +20,10 @@ template <typename Call> BriskoError errorOf(Call &&call) {
         return error;
     }
     return BriskoError(0, QString());
+}
+
+// The whole content of a file; empty when it cannot be read.
+inline QByteArray fileBytes(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

@@ -1,4 +1,4 @@
-#include "app/briskoerror.h"
+#include "platform/briskoerror.h"
 
 #include <QCoreApplication>
 

@@ -31,6 +31,7 @@ constexpr int Overflow = 6;
 constexpr int TypeMismatch = 13;
 constexpr int FileAlreadyExists = 58;
 constexpr int InvalidUseOfNull = 94;
+constexpr int NoSuchColumn = 3265; // a programming error: a misspelt column name
 constexpr int DatabaseError = -2147467259;
 } // namespace RuntimeError
 
