@@ -2,48 +2,31 @@
 #include "ui_frmLogin.h"
 
 #include "admin/systemuser.h"
-#include "app/briskoerror.h"
 #include "app/session.h"
+#include "platform/briskoerror.h"
 #include "platform/dialogs.h"
 #include "platform/encryption.h"
 #include "version.h"
 
-#include <QKeyEvent>
-#include <QScreen>
-
 frmLogin::frmLogin(QWidget *parent)
-    : QDialog(parent)
+    : ModalScreen(parent)
     , ui(std::make_unique<Ui::frmLogin>()) {
     ui->setupUi(this);
     ui->lblVersion->setText(
         tr("Version %1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision));
-    // Enter in the password box logs in; it is caught before the dialog can
-    // pass it on to a default button as well.
-    ui->txtPassword->installEventFilter(this);
+    // Enter in the name goes on to the password, and Enter there logs in:
+    // the dialog has no default button to pass it on to as well.
+    connect(ui->txtUsername, &QLineEdit::returnPressed, ui->txtPassword,
+            qOverload<>(&QWidget::setFocus));
+    connect(ui->txtPassword, &QLineEdit::returnPressed, this, &frmLogin::doLogin);
     connect(ui->cmdLogin, &QPushButton::clicked, this, &frmLogin::doLogin);
     ui->txtUsername->setFocus();
 }
 
 frmLogin::~frmLogin() = default;
 
-void frmLogin::showEvent(QShowEvent *event) {
-    QDialog::showEvent(event);
-    move(screen()->availableGeometry().center() - rect().center());
-}
-
-bool frmLogin::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == ui->txtPassword && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            doLogin();
-            return true;
-        }
-    }
-    return QDialog::eventFilter(watched, event);
-}
-
 void frmLogin::doLogin() {
-    try {
+    runCommand(tr("An error has occured: "), [this] {
         auto user = std::make_shared<SystemUser>();
         const QString password = Utility::EncryptString(ui->txtPassword->text(),
                                                         QString::fromUtf16(Utility::kPasswordKey));
@@ -59,8 +42,5 @@ void frmLogin::doLogin() {
         }
         session().currentUser = std::move(user);
         accept();
-    } catch (const BriskoError &error) {
-        dialogs().message(tr("An error has occured: ") + error.description(), tr("Error"),
-                          Dialogs::Icon::Critical);
-    }
+    });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDialog>
+#include "app/modalscreen.h"
+
 #include <memory>
 
 namespace Ui {
@@ -10,16 +11,12 @@ class frmLogin;
 // Asks for a user name and password when access is restricted. On a good
 // login the session's currentUser is set and the dialog accepts; closing it
 // leaves currentUser empty. There is no limit on tries.
-class frmLogin : public QDialog {
+class frmLogin : public ModalScreen {
     Q_OBJECT
 
 public:
     explicit frmLogin(QWidget *parent = nullptr);
     ~frmLogin() override;
-
-protected:
-    void showEvent(QShowEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void doLogin();

@@ -2,11 +2,9 @@
 #include "ui_frmUser.h"
 
 #include "admin/systemuser.h"
-#include "app/briskoerror.h"
+#include "platform/briskoerror.h"
 #include "platform/dialogs.h"
 #include "platform/encryption.h"
-
-#include <QScreen>
 
 namespace {
 
@@ -17,7 +15,7 @@ qint16 flagOf(const QCheckBox *box) {
 } // namespace
 
 frmUser::frmUser(QWidget *parent)
-    : QDialog(parent)
+    : ModalScreen(parent)
     , ui(std::make_unique<Ui::frmUser>()) {
     ui->setupUi(this);
 
@@ -34,20 +32,8 @@ frmUser::frmUser(QWidget *parent)
 
 frmUser::~frmUser() = default;
 
-// The caller sets userID after construction, so the account is read when the
-// dialog first shows.
-void frmUser::showEvent(QShowEvent *event) {
-    QDialog::showEvent(event);
-    if (m_loaded)
-        return;
-    m_loaded = true;
-    move(screen()->availableGeometry().center() - rect().center());
-    try {
-        loadUser();
-    } catch (const BriskoError &error) {
-        dialogs().message(tr("An error has occured:  ") + error.description(), tr("Error"),
-                          Dialogs::Icon::Critical);
-    }
+void frmUser::load() {
+    runCommand(tr("An error has occured:  "), [this] { loadUser(); });
     ui->txtUsername->setFocus();
 }
 
@@ -86,7 +72,7 @@ void frmUser::saveUser() {
                           Dialogs::Icon::Critical);
         return;
     }
-    try {
+    runCommand(tr("An error has occured:  "), [this] {
         SystemUser user;
         user.userID = userID;
         user.username = ui->txtUsername->text();
@@ -101,8 +87,5 @@ void frmUser::saveUser() {
         user.WriteUser();
         userID = user.userID;
         accept();
-    } catch (const BriskoError &error) {
-        dialogs().message(tr("An error has occured:  ") + error.description(), tr("Error"),
-                          Dialogs::Icon::Critical);
-    }
+    });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDialog>
+#include "app/modalscreen.h"
+
 #include <memory>
 
 namespace Ui {
@@ -9,7 +10,7 @@ class frmUser;
 
 // Adds or edits one user account. The caller sets userID (0 for a new
 // account) before showing it; after a save it holds the account's key.
-class frmUser : public QDialog {
+class frmUser : public ModalScreen {
     Q_OBJECT
 
 public:
@@ -19,7 +20,7 @@ public:
     qint32 userID = 0;
 
 protected:
-    void showEvent(QShowEvent *event) override;
+    void load() override;
 
 private:
     void loadUser();
@@ -28,5 +29,4 @@ private:
     void saveUser();
 
     std::unique_ptr<Ui::frmUser> ui;
-    bool m_loaded = false;
 };

@@ -1,6 +1,6 @@
 #include "admin/systemuser.h"
 
-#include "app/briskoerror.h"
+#include "platform/briskoerror.h"
 
 using namespace Qt::Literals::StringLiterals;
 

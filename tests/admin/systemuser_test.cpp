@@ -1,30 +1,34 @@
 #include "admin/systemuser.h"
-#include "app/session.h"
 #include "support/briskotest.h"
 #include "usertestdata.h"
 
-using namespace Qt::Literals::StringLiterals;
 using namespace usertest;
 
 namespace {
 
 using SystemUserTest = BriskoTest;
 
-SystemUser newAccount(const QString &name, const QString &password) {
-    SystemUser user;
-    user.username = name;
-    user.password = password;
-    user.canEdit = 1;
-    user.canVoid = 1;
-    user.status = 1;
-    user.canRunReports = 1;
-    return user;
+SystemUser account(const QString &name, const QString &password) {
+    return {.username = name,
+            .password = password,
+            .canEdit = 1,
+            .canVoid = 1,
+            .status = 1,
+            .canRunReports = 1};
+}
+
+QStringList accountNames() {
+    QStringList names;
+    for (const db::Row &row : SystemUser().GetUsers())
+        names.append(row.text(u"username"_s));
+    return names;
 }
 
 TEST_F(SystemUserTest, AccountsAreFoundByKeyOrByNameAndPasswordListedAndDeleted) {
-    SystemUser written = newAccount(u"O'Brien"_s, encrypted(u"pa's"_s));
+    SystemUser written = account(u"O'Brien"_s, encrypted(u"pa's"_s));
     EXPECT_TRUE(written.WriteUser());
-    addAccount(u"ann"_s, u"a"_s);
+    const qint32 annID = addAccount(u"ann"_s, u"a"_s);
+    addAccount(u"Bob"_s, u"b"_s);
 
     SystemUser byKey;
     ASSERT_TRUE(byKey.GetUser({}, {}, written.userID));
@@ -35,48 +39,47 @@ TEST_F(SystemUserTest, AccountsAreFoundByKeyOrByNameAndPasswordListedAndDeleted)
     SystemUser byName;
     ASSERT_TRUE(byName.GetUser(u"O'Brien"_s, encrypted(u"pa's"_s), 0));
     EXPECT_EQ(byName.userID, written.userID);
+    EXPECT_FALSE(SystemUser().GetUser(u"O'Brien"_s, encrypted(u"wrong"_s), 0));
 
-    // Not found leaves the fields as they were.
-    EXPECT_FALSE(byName.GetUser(u"O'Brien"_s, encrypted(u"wrong"_s), 0));
-    EXPECT_FALSE(byName.GetUser({}, {}, 999));
-    EXPECT_EQ(byName.username, u"O'Brien"_s);
-
-    QStringList names;
-    for (const db::Row &row : SystemUser().GetUsers())
-        names.append(row.text(u"username"_s));
-    EXPECT_EQ(names, (QStringList{u"O'Brien"_s, u"ann"_s}));
+    // Names sort without regard to case.
+    EXPECT_EQ(accountNames(), (QStringList{u"ann"_s, u"Bob"_s, u"O'Brien"_s}));
     EXPECT_TRUE(SystemUser().DeleteUser(written.userID));
-    EXPECT_EQ(accountCount(), 1);
-}
+    EXPECT_EQ(accountNames(), (QStringList{u"ann"_s, u"Bob"_s}));
 
-TEST_F(SystemUserTest, AnEmptyPasswordKeepsTheStoredOneOrStoresTheEmptyText) {
-    const qint32 id = addAccount(u"ann"_s, u"first"_s);
-    SystemUser user = newAccount(u"annie"_s, QString());
-    user.userID = id;
-    user.WriteUser();
-    EXPECT_EQ(storedPassword(id).toString(), encrypted(u"first"_s));
-    EXPECT_EQ(accountCount(), 1);
-
-    SystemUser fresh = newAccount(u"bob"_s, QString());
-    fresh.WriteUser();
-    EXPECT_EQ(storedPassword(fresh.userID), QVariant(u""_s)); // not Null
-    EXPECT_TRUE(SystemUser().GetUser(u"bob"_s, encrypted(QString()), 0));
-}
-
-TEST_F(SystemUserTest, FailuresCarryTheirRoutinesPrefix) {
-    const qint32 id = addAccount(u"ann"_s, u"a"_s);
     db::execute(u"UPDATE tblUser SET canRunReports = NULL"_s);
-    EXPECT_EQ(errorOf([&] { SystemUser().GetUser({}, {}, id); }).description(),
+    EXPECT_EQ(errorOf([&] { SystemUser().GetUser({}, {}, annID); }).description(),
               u"User.GetUser:  Invalid use of Null"_s);
+}
 
-    setConnectionString(tempPath(u"missing.db"_s));
-    const auto prefixOf = [](auto &&operation) {
-        return errorOf(operation).description().section(u"  "_s, 0, 0);
-    };
-    SystemUser user = newAccount(u"ann"_s, {});
-    EXPECT_EQ(prefixOf([&] { user.GetUsers(); }), u"User.GetUser:"_s);
-    EXPECT_EQ(prefixOf([&] { user.WriteUser(); }), u"User.WriteUser:"_s);
-    EXPECT_EQ(prefixOf([&] { user.DeleteUser(1); }), u"User.DeleteUser:"_s);
+TEST_F(SystemUserTest, TheNameComparesWithoutRegardToCaseThePasswordExactly) {
+    addAccount(u"Ann"_s, u"pw"_s);
+    SystemUser found;
+    ASSERT_TRUE(found.GetUser(u"ann"_s, encrypted(u"pw"_s), 0));
+    EXPECT_EQ(found.username, u"Ann"_s);
+
+    db::execute(u"UPDATE tblUser SET password = 'AbC'"_s);
+    EXPECT_TRUE(SystemUser().GetUser(u"ANN"_s, u"AbC"_s, 0));
+    EXPECT_FALSE(SystemUser().GetUser(u"ANN"_s, u"abc"_s, 0));
+}
+
+TEST_F(SystemUserTest, AnUpdateWithAnEmptyPasswordKeepsTheStoredOne) {
+    SystemUser user = account(u"ann"_s, encrypted(u"first"_s));
+    user.WriteUser();
+    user.username = u"annie"_s;
+    user.password.clear();
+    user.canDelete = 1;
+    user.WriteUser();
+    EXPECT_EQ(storedPassword(user.userID), encrypted(u"first"_s));
+    SystemUser stored;
+    ASSERT_TRUE(stored.GetUser({}, {}, user.userID));
+    EXPECT_EQ(stored.username, u"annie"_s);
+    EXPECT_EQ(stored.canDelete, 1);
+
+    // A new account without one stores the empty text, and logs in with it.
+    SystemUser fresh = account(u"bob"_s, {});
+    fresh.WriteUser();
+    EXPECT_EQ(storedPassword(fresh.userID), u""_s);
+    EXPECT_TRUE(SystemUser().GetUser(u"bob"_s, encrypted({}), 0));
 }
 
 } // namespace
