@@ -3,7 +3,9 @@
 #include <QString>
 
 // The outgoing mail settings. They are kept with the program's settings, so
-// that they survive a restart and every report sees the same ones.
+// that they survive a restart and every report sees the same ones. The
+// password goes to the desktop's keychain where there is one; otherwise it
+// stays in the settings file, which only its owner may then read.
 class MailSettings {
 public:
     QString mailServer;
