@@ -6,7 +6,7 @@
 #include <QIcon>
 
 frmAbout::frmAbout(QWidget *parent)
-    : QDialog(parent)
+    : ModalScreen(parent)
     , ui(std::make_unique<Ui::frmAbout>()) {
     ui->setupUi(this);
     ui->lblIcon->setPixmap(QIcon(QStringLiteral(":/icons/brisko.png")).pixmap(64, 64));

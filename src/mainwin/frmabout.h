@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "app/modalscreen.h"
 #include <memory>
 
 namespace Ui {
@@ -8,7 +8,7 @@ class frmAbout;
 }
 
 // The about box: the program's name and version.
-class frmAbout : public QDialog {
+class frmAbout : public ModalScreen {
     Q_OBJECT
 
 public:

@@ -2,21 +2,27 @@
 #include "ui_frmMain.h"
 
 #include "admin/databasefiles.h"
+#include "admin/dbupdater.h"
 #include "admin/frmlogin.h"
 #include "admin/systemuser.h"
-#include "app/briskoerror.h"
+#include "admin/updatecheck.h"
 #include "app/company.h"
 #include "app/database.h"
+#include "app/modalscreen.h"
 #include "app/runtimeformat.h"
 #include "app/session.h"
 #include "app/startup.h"
-#include "mainwin/frmabout.h"
+#include "mainwin/receiptlistmodel.h"
+#include "output/modreports.h"
+#include "platform/briskoerror.h"
 #include "platform/dialogs.h"
+#include "platform/manual.h"
 #include "platform/processcontrol.h"
 #include "platform/registry.h"
 #include "platform/shell.h"
 #include "receipts/receipt.h"
 #include "version.h"
+#include "website.h"
 
 #include <QCloseEvent>
 #include <QHeaderView>
@@ -26,32 +32,21 @@
 #include <QScreen>
 #include <QTime>
 #include <QTimer>
-#include <QTreeWidget>
+#include <QTreeView>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-enum Column { DateColumn, NumberColumn, NameColumn, TotalColumn, ReceivedColumn, StatusColumn };
-
-const QString kMoneyFormat = u"#,###.00"_s;
-
 // Room for "12/31/2013 12:59:59 PM", a long number and a long name.
 constexpr int kColumnWidths[] = {170, 110, 260, 100, 100, 80};
 
-void prepareList(QTreeWidget *list) {
-    for (int column = 0; column < std::ssize(kColumnWidths); ++column)
-        list->setColumnWidth(column, kColumnWidths[column]);
-    for (const int column : {TotalColumn, ReceivedColumn})
-        list->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
-    list->header()->setStretchLastSection(true);
-}
-
 // The maker's page about this release.
 QString whatsNewAddress() {
-    return u"https://brisko.example/whats-new-in-brisko-%1-%2-%3"_s.arg(kVersionMajor)
-        .arg(kVersionMinor)
-        .arg(kVersionRevision);
+    const QString page = u"/whats-new-in-brisko-%1-%2-%3"_s.arg(kVersionMajor)
+                             .arg(kVersionMinor)
+                             .arg(kVersionRevision);
+    return QString::fromUtf8(kWebsite) + page;
 }
 
 } // namespace
@@ -60,22 +55,30 @@ frmMain::frmMain(QWidget *parent)
     : QMainWindow(parent)
     , ui(std::make_unique<Ui::frmMain>()) {
     ui->setupUi(this);
-    prepareList(ui->lstReceipts);
-    prepareList(ui->lstMonth);
+    for (QTreeView *list : {ui->lstReceipts, ui->lstMonth})
+        prepareList(list);
 
     createToolPool();
     createMenus();
     createIconBar();
     createItemMenu();
     createStatusPanels();
+}
 
-    for (QTreeWidget *list : {ui->lstReceipts, ui->lstMonth}) {
-        connect(list, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem *item) {
-            openReceipt(item->data(0, Qt::UserRole).toInt());
-        });
-        connect(list, &QWidget::customContextMenuRequested, this,
-                [this, list](const QPoint &position) { showItemMenu(list, position); });
-    }
+void frmMain::prepareList(QTreeView *list) {
+    list->setModel(new ReceiptListModel(list));
+    for (int column = 0; column < std::ssize(kColumnWidths); ++column)
+        list->setColumnWidth(column, kColumnWidths[column]);
+    list->header()->setStretchLastSection(true);
+    connect(list, &QTreeView::doubleClicked, this, [this](const QModelIndex &index) {
+        openReceipt(index.data(ReceiptListModel::ReceiptIDRole).toInt());
+    });
+    connect(list, &QWidget::customContextMenuRequested, this,
+            [this, list](const QPoint &position) { showItemMenu(list, position); });
+}
+
+ReceiptListModel *frmMain::salesOf(const QTreeView *list) {
+    return static_cast<ReceiptListModel *>(list->model());
 }
 
 frmMain::~frmMain() = default;
@@ -101,6 +104,9 @@ bool frmMain::load() {
 
 void frmMain::centreOnScreen() {
     const QRect available = screen()->availableGeometry();
+    // A small or strongly scaled screen gets a smaller window, not a cut one.
+    const QSize frame = frameGeometry().size() - size();
+    resize(size().boundedTo(available.size() - frame));
     move(available.center() - frameGeometry().center() + frameGeometry().topLeft());
 }
 
@@ -167,48 +173,21 @@ void frmMain::refreshLists() {
     fillReceiptList(QDate(today.year(), today.month(), 1), today, ui->lstMonth);
 }
 
-void frmMain::fillReceiptList(const QDate &startDate, const QDate &endDate, QTreeWidget *list) {
+void frmMain::fillReceiptList(const QDate &startDate, const QDate &endDate, QTreeView *list) {
     try {
-        const db::Snapshot rows =
-            Receipt().GetReceipts(Runtime::shortDate(startDate), Runtime::shortDate(endDate), 0, 0,
-                                  QString(), QString(), false, false);
-        list->clear();
-        // A row that fails ends the filling; the rows before it stay.
-        for (const db::Row &row : rows)
-            list->addTopLevelItem(receiptItem(row));
+        salesOf(list)->load(Receipt().GetReceipts(
+            {.startDate = Runtime::shortDate(startDate), .endDate = Runtime::shortDate(endDate)}));
     } catch (const BriskoError &error) {
         showError(error);
     }
 }
 
-QTreeWidgetItem *frmMain::receiptItem(const db::Row &row) {
-    const Currency received = row.currency(u"amountReceived"_s);
-    const Currency total = row.int16(u"receiptType"_s) == Receipt::AccountPayment
-                               ? received
-                               : received + row.currency(u"balanceRemaining"_s);
-    const QStringList texts = {
-        Runtime::generalDate(row.dateTime(u"receiptDate"_s)),
-        row.text(u"receiptNumber"_s),
-        row.text(u"payeeName"_s),
-        Runtime::formatNumber(total, kMoneyFormat),
-        Runtime::formatNumber(received, kMoneyFormat),
-        row.text(u"statusName"_s),
-    };
-    auto *item = new QTreeWidgetItem(texts);
-    item->setData(0, Qt::UserRole, row.int32(u"receiptID"_s));
-    for (const int column : {TotalColumn, ReceivedColumn})
-        item->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
-    return item;
-}
-
-void frmMain::showItemMenu(QTreeWidget *list, const QPoint &position) {
+void frmMain::showItemMenu(QTreeView *list, const QPoint &position) {
     selectedList = list == ui->lstMonth ? 1 : 0;
-    const bool hasRows = list->topLevelItemCount() > 0;
-    for (const QString &name : {u"mnuPrint"_s, u"mnuPrintPreview"_s, u"mnuView"_s, u"mnuEmail"_s})
-        findChild<QAction *>(name)->setEnabled(hasRows);
-    // An empty popup is not worth showing.
-    if (!mnuItem->isEmpty())
-        mnuItem->popup(list->viewport()->mapToGlobal(position));
+    const bool hasRows = salesOf(list)->rowCount() > 0;
+    for (QAction *entry : {ui->mnuPrint, ui->mnuPrintPreview, ui->mnuView, ui->mnuEmail})
+        entry->setEnabled(hasRows);
+    mnuItem->popup(list->viewport()->mapToGlobal(position));
 }
 
 void frmMain::runItemCommand(Command command) {
@@ -219,7 +198,7 @@ void frmMain::runItemCommand(Command command) {
     }
 }
 
-QTreeWidget *frmMain::selectedListWidget() const {
+QTreeView *frmMain::selectedListView() const {
     return selectedList == 1 ? ui->lstMonth : ui->lstReceipts;
 }
 
@@ -240,27 +219,22 @@ void frmMain::openReceipt(qint32 receiptID) {
 }
 
 void frmMain::viewSelectedReceipt() {
-    const QTreeWidget *list = selectedListWidget();
-    const QTreeWidgetItem *item = list->currentItem();
-    if (!item)
-        item = list->topLevelItem(0);
-    if (item)
-        openReceipt(item->data(0, Qt::UserRole).toInt());
+    const QTreeView *list = selectedListView();
+    QModelIndex row = list->currentIndex();
+    if (!row.isValid())
+        row = list->model()->index(0, 0);
+    if (row.isValid())
+        openReceipt(row.data(ReceiptListModel::ReceiptIDRole).toInt());
 }
 
 void frmMain::emailSelectedReceipt() {
-    if (company().mailServer.isEmpty()) {
-        dialogs().message(tr("Your email settings have not been configured.  Please go to Options "
-                             "and click the Email tab to set up your outbound email"),
-                          tr("Email Settings Required"), Dialogs::Icon::Exclamation);
+    if (!modReports::emailIsSetUp())
         return;
-    }
     // The sending itself goes through the receipt output.
 }
 
 void frmMain::showError(const BriskoError &error) {
-    dialogs().message(tr("An error has occured:  ") + error.description(), tr("Error"),
-                      Dialogs::Icon::Critical);
+    ModalScreen::showFailure(tr("An error has occured:  "), error);
 }
 
 void frmMain::exitProgram() {
@@ -286,9 +260,11 @@ void frmMain::DoOpenDatabase() {
             return;
         Session &state = session();
         state.dbPath = path;
-        Utility::RegSetString(u"lastDB"_s, path);
+        Utility::RegSetString(SettingsKey::lastDB, path);
+        db::closeConnection();
         setConnectionString(path);
-        // The upgrade of the opened file to the current schema belongs here.
+        if (!dbUpdater::updateDatabase())
+            return;
         modMain::loadCompanyInfo();
         writeDatabasePanel();
         refreshLists();
@@ -306,13 +282,26 @@ void frmMain::DoOpenDatabase() {
     }
 }
 
-void frmMain::whatsNew() {
-    Utility::shellOpen(whatsNewAddress());
+void frmMain::backupDatabase() {
+    modMain::backupDatabase();
 }
 
-void frmMain::aboutBrisko() {
-    frmAbout about(this);
-    about.exec();
+void frmMain::restoreDatabase() {
+    modMain::restoreDatabase();
+    if (session().restoreCompleted)
+        modMain::EndProgram();
+}
+
+void frmMain::showContents() {
+    Manual::openContents();
+}
+
+void frmMain::checkForUpdates() {
+    modMain::checkForUpdate();
+}
+
+void frmMain::whatsNew() {
+    Utility::shellOpen(whatsNewAddress());
 }
 
 void frmMain::closeEvent(QCloseEvent *event) {

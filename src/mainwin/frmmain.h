@@ -6,17 +6,14 @@
 #include <QMainWindow>
 #include <QStringList>
 #include <memory>
+#include <optional>
 
 class BriskoError;
 class QAction;
 class QLabel;
 class QMenu;
-class QTreeWidget;
-class QTreeWidgetItem;
-
-namespace db {
-class Row;
-}
+class QTreeView;
+class ReceiptListModel;
 
 namespace Ui {
 class frmMain;
@@ -38,7 +35,7 @@ public:
 
     // Reloads today's and this month's sales.
     void refreshLists();
-    void fillReceiptList(const QDate &startDate, const QDate &endDate, QTreeWidget *list);
+    void fillReceiptList(const QDate &startDate, const QDate &endDate, QTreeView *list);
 
     // Opens another database file in place of the current one.
     void DoOpenDatabase();
@@ -61,15 +58,19 @@ protected:
 private:
     using Command = void (frmMain::*)();
 
-    // One tool of the pool. A tool without a command stands in no menu and on
-    // no bar, yet it exists, so that the rights apply to it.
+    // One tool of the pool, one row of the table in mainwintools.cpp. A tool
+    // without a command stands in no menu and on no bar, yet it exists, so
+    // that the rights apply to it.
     struct Tool {
         const char *id;
         const char *caption;
-        Command command;
-        const char *shortcut;     // given once the tool has its command
-        const char *themeIcon;    // from the desktop's icon theme ...
-        const char *fallbackIcon; // ... or this resource when the theme lacks it
+        // A routine of the window, or showModal<Screen> for a modal screen.
+        Command command = nullptr;
+        // A ledger: the report type it prints, once the report output is there.
+        std::optional<qint16> reportType = std::nullopt;
+        const char *shortcut = nullptr;     // given once the tool has its command
+        const char *themeIcon = nullptr;    // from the desktop's icon theme ...
+        const char *fallbackIcon = nullptr; // ... or this resource when the theme lacks it
     };
     // A menu and its entries, tool ids and separators.
     struct MenuLayout {
@@ -77,20 +78,11 @@ private:
         const char *caption;
         QStringList entries;
     };
-    // An entry of the list popup; it stays out of the popup until ready.
-    struct ItemCommand {
-        const char *name;
-        const char *caption;
-        Command command;
-        bool ready;
-    };
-
     // The tables, in mainwintools.cpp.
     static const QList<Tool> &tools();
     static const QList<MenuLayout> &menuLayouts();
     static const QStringList &menuBarLayout();
     static const QStringList &iconBarLayout();
-    static const QList<ItemCommand> &itemCommands();
     static const Tool *findTool(const QString &id);
 
     // Building the window from the tables.
@@ -105,8 +97,16 @@ private:
     // Tool commands.
     void exitProgram();
     void openDatabase();
+    void showContents();
+    void checkForUpdates();
+    void backupDatabase();
+    void restoreDatabase();
     void whatsNew();
-    void aboutBrisko();
+    // Shows a screen of type Screen modal over the window and waits for it.
+    template <typename Screen> void showModal() {
+        Screen screen(this);
+        screen.exec();
+    }
 
     // Start-up and users.
     void centreOnScreen();
@@ -117,10 +117,11 @@ private:
     void updateClock();
 
     // The lists and their commands.
-    static QTreeWidgetItem *receiptItem(const db::Row &row);
-    void showItemMenu(QTreeWidget *list, const QPoint &position);
+    void prepareList(QTreeView *list);
+    static ReceiptListModel *salesOf(const QTreeView *list);
+    void showItemMenu(QTreeView *list, const QPoint &position);
     void runItemCommand(Command command);
-    QTreeWidget *selectedListWidget() const;
+    QTreeView *selectedListView() const;
     void openReceipt(qint32 receiptID);
     void viewSelectedReceipt();
     void emailSelectedReceipt();

@@ -1,17 +1,25 @@
 // The tools of the main window: one pool of actions, the menus and the icon
 // bar built over it, and the dispatch of a click by the tool's id.
 //
-// A tool appears in a menu or on the icon bar only once it has a command in
-// the table below; until then it exists in the pool alone, so that the rights
-// still apply to it. Separators that would end up doubled, first or last are
-// left out, and a menu with nothing in it is left out too.
+// A new tool is one row of the table below: its id, caption, shortcut and
+// icons, and its command, a routine of the window or showModal<frmX> for a
+// tool that opens a modal screen; a ledger row names its report type. A tool
+// appears in a menu or on the icon bar only once it has a command; until then
+// it exists in the pool alone, so that the rights still apply to it. Separators that would end up
+// doubled, first or last are left out, and a menu with nothing in it is left out too.
 
 #include "mainwin/frmmain.h"
 #include "ui_frmMain.h"
 
+#include "admin/frmmultiuser.h"
 #include "admin/systemuser.h"
-#include "app/briskoerror.h"
 #include "app/session.h"
+#include "catalogue/frmpaymethod.h"
+#include "catalogue/frmproductmanagement.h"
+#include "catalogue/frmservice.h"
+#include "customers/frmcustomerlist.h"
+#include "mainwin/frmabout.h"
+#include "platform/briskoerror.h"
 
 #include <QCoreApplication>
 #include <QIcon>
@@ -57,62 +65,104 @@ void addWithSeparators(QWidget *holder, const QList<QAction *> &entries) {
 
 } // namespace
 
-// In the order in which a click looks for its tool.
+// In the order in which a click looks for its tool. A row's command is a
+// routine of the window, or showModal<Screen> for a tool that opens a modal
+// screen; a ledger row names its report type.
 const QList<frmMain::Tool> &frmMain::tools() {
     static const QList<Tool> table = {
-        {"ID_Exit", QT_TRANSLATE_NOOP("frmMain", "E&xit"), &frmMain::exitProgram, "Ctrl+Q",
-         "application-exit", ":/icons/exit.png"},
-        {"ID_OpenDatabase", QT_TRANSLATE_NOOP("frmMain", "Open Database"), &frmMain::openDatabase,
-         nullptr, "document-open", ":/icons/open-database.png"},
-        {"ID_BackupDatabase", QT_TRANSLATE_NOOP("frmMain", "Backup Database"), nullptr, nullptr,
-         "document-save", nullptr},
-        {"ID_RestoreDatabase", QT_TRANSLATE_NOOP("frmMain", "Restore Database"), nullptr, nullptr,
-         "document-revert", nullptr},
-        {"ID_Multi-UserSettings", QT_TRANSLATE_NOOP("frmMain", "Multi-User Settings"), nullptr,
-         nullptr, "network-server", nullptr},
-        {"ID_NewReceipt", QT_TRANSLATE_NOOP("frmMain", "New Receipt"), nullptr, "Ctrl+N",
-         "document-new", ":/icons/new-receipt.png"},
-        {"ID_ReceiptJournal", QT_TRANSLATE_NOOP("frmMain", "Receipt Journal"), nullptr, nullptr,
-         "x-office-address-book", ":/icons/journal.png"},
-        {"ID_CustomerSearch", QT_TRANSLATE_NOOP("frmMain", "Customers"), nullptr, nullptr,
-         "system-users", ":/icons/customers.png"},
+        {.id = "ID_Exit",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "E&xit"),
+         .command = &frmMain::exitProgram,
+         .shortcut = "Ctrl+Q",
+         .themeIcon = "application-exit",
+         .fallbackIcon = ":/icons/exit.png"},
+        {.id = "ID_OpenDatabase",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Open Database"),
+         .command = &frmMain::openDatabase,
+         .themeIcon = "document-open",
+         .fallbackIcon = ":/icons/open-database.png"},
+        {.id = "ID_BackupDatabase",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Backup Database"),
+         .command = &frmMain::backupDatabase,
+         .themeIcon = "document-save"},
+        {.id = "ID_RestoreDatabase",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Restore Database"),
+         .command = &frmMain::restoreDatabase,
+         .themeIcon = "document-revert"},
+        {.id = "ID_Multi-UserSettings",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Multi-User Settings"),
+         .command = &frmMain::showModal<frmMultiUser>,
+         .themeIcon = "network-server"},
+        {.id = "ID_NewReceipt",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "New Receipt"),
+         .shortcut = "Ctrl+N",
+         .themeIcon = "document-new",
+         .fallbackIcon = ":/icons/new-receipt.png"},
+        {.id = "ID_ReceiptJournal",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Receipt Journal"),
+         .themeIcon = "x-office-address-book",
+         .fallbackIcon = ":/icons/journal.png"},
+        {.id = "ID_CustomerSearch",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Customers"),
+         .command = &frmMain::showModal<frmCustomerList>,
+         .themeIcon = "system-users",
+         .fallbackIcon = ":/icons/customers.png"},
         // Opened from other screens by its id; no menu carries it.
-        {"ID_ReprintReceipt", QT_TRANSLATE_NOOP("frmMain", "Reprint Receipt"), nullptr, nullptr,
-         nullptr, nullptr},
-        {"ID_UpdateReceiptStatus", QT_TRANSLATE_NOOP("frmMain", "Update Receipt Status"), nullptr,
-         nullptr, nullptr, nullptr},
-        {"ID_Options", QT_TRANSLATE_NOOP("frmMain", "Options"), nullptr, nullptr,
-         "preferences-system", nullptr},
-        {"ID_ServiceDescriptions", QT_TRANSLATE_NOOP("frmMain", "Service Descriptions"), nullptr,
-         nullptr, nullptr, nullptr},
-        {"ID_Products", QT_TRANSLATE_NOOP("frmMain", "Inventory"), nullptr, nullptr,
-         "package-x-generic", ":/icons/products.png"},
-        {"ID_PaymentMethods", QT_TRANSLATE_NOOP("frmMain", "Payment Methods"), nullptr, nullptr,
-         nullptr, nullptr},
-        {"ID_ReceiptLedger", QT_TRANSLATE_NOOP("frmMain", "Receipt Ledger"), nullptr, nullptr,
-         nullptr, nullptr},
-        {"ID_RptService", QT_TRANSLATE_NOOP("frmMain", "Service Breakdown Report"), nullptr,
-         nullptr, nullptr, nullptr},
-        {"ID_ServiceLedgerDetail", QT_TRANSLATE_NOOP("frmMain", "Service Ledger"), nullptr, nullptr,
-         nullptr, nullptr},
-        {"ID_ProductLedgerDetail", QT_TRANSLATE_NOOP("frmMain", "Inventory Sold"), nullptr, nullptr,
-         nullptr, nullptr},
-        {"ID_InventorySoldDetail", QT_TRANSLATE_NOOP("frmMain", "Inventory Sold Detail"), nullptr,
-         nullptr, nullptr, nullptr},
-        {"ID_Contents", QT_TRANSLATE_NOOP("frmMain", "Contents"), nullptr, "F1", "help-contents",
-         nullptr},
-        {"ID_WhatsNew", QT_TRANSLATE_NOOP("frmMain", "What's New?"), &frmMain::whatsNew, nullptr,
-         "internet-web-browser", ":/icons/whats-new.png"},
-        {"ID_CheckforUpdates", QT_TRANSLATE_NOOP("frmMain", "Check for Updates"), nullptr, nullptr,
-         "system-software-update", nullptr},
-        {"ID_AboutBrisko", QT_TRANSLATE_NOOP("frmMain", "About Brisko"), &frmMain::aboutBrisko,
-         nullptr, "help-about", ":/icons/about.png"},
+        {.id = "ID_ReprintReceipt", .caption = QT_TRANSLATE_NOOP("frmMain", "Reprint Receipt")},
+        {.id = "ID_UpdateReceiptStatus",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Update Receipt Status")},
+        {.id = "ID_Options",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Options"),
+         .themeIcon = "preferences-system"},
+        {.id = "ID_ServiceDescriptions",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Service Descriptions"),
+         .command = &frmMain::showModal<frmService>},
+        {.id = "ID_Products",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Inventory"),
+         .command = &frmMain::showModal<frmProductManagement>,
+         .themeIcon = "package-x-generic",
+         .fallbackIcon = ":/icons/products.png"},
+        {.id = "ID_PaymentMethods",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Payment Methods"),
+         .command = &frmMain::showModal<frmPayMethod>},
+        {.id = "ID_ReceiptLedger",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Receipt Ledger"),
+         .reportType = 0},
+        {.id = "ID_RptService",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Service Breakdown Report"),
+         .reportType = 6},
+        {.id = "ID_ServiceLedgerDetail",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Service Ledger"),
+         .reportType = 2},
+        {.id = "ID_ProductLedgerDetail",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Inventory Sold"),
+         .reportType = 1},
+        {.id = "ID_InventorySoldDetail",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Inventory Sold Detail"),
+         .reportType = 7},
+        {.id = "ID_Contents",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Contents"),
+         .command = &frmMain::showContents,
+         .shortcut = "F1",
+         .themeIcon = "help-contents"},
+        {.id = "ID_WhatsNew",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "What's New?"),
+         .command = &frmMain::whatsNew,
+         .themeIcon = "internet-web-browser",
+         .fallbackIcon = ":/icons/whats-new.png"},
+        {.id = "ID_CheckforUpdates",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Check for Updates"),
+         .command = &frmMain::checkForUpdates,
+         .themeIcon = "system-software-update"},
+        {.id = "ID_AboutBrisko",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "About Brisko"),
+         .command = &frmMain::showModal<frmAbout>,
+         .themeIcon = "help-about",
+         .fallbackIcon = ":/icons/about.png"},
         // Opened from other screens by its id; no menu carries it.
-        {"ID_ReportManager", QT_TRANSLATE_NOOP("frmMain", "Report Manager"), nullptr, nullptr,
-         nullptr, nullptr},
+        {.id = "ID_ReportManager", .caption = QT_TRANSLATE_NOOP("frmMain", "Report Manager")},
         // Kept in the pool for its id; it has never had a command.
-        {"ID_ServicesProvided", QT_TRANSLATE_NOOP("frmMain", "Services Provided"), nullptr, nullptr,
-         nullptr, nullptr},
+        {.id = "ID_ServicesProvided", .caption = QT_TRANSLATE_NOOP("frmMain", "Services Provided")},
     };
     return table;
 }
@@ -153,22 +203,6 @@ const QStringList &frmMain::iconBarLayout() {
                                        u"ID_Products"_s,   kSeparator,      u"ID_CustomerSearch"_s,
                                        kSeparator,         u"ID_Reports"_s, kSeparator};
     return layout;
-}
-
-// Print, preview and e-mail go out through the receipt output, and View opens
-// the receipt editor: each joins the popup once what it needs is there.
-const QList<frmMain::ItemCommand> &frmMain::itemCommands() {
-    static const QList<ItemCommand> table = {
-        {"mnuPrint", QT_TRANSLATE_NOOP("frmMain", "Print Receipt"), nullptr, false},
-        {"mnuPrintPreview", QT_TRANSLATE_NOOP("frmMain", "Print Preview"), nullptr, false},
-        {nullptr, nullptr, nullptr, false},
-        {"mnuEmail", QT_TRANSLATE_NOOP("frmMain", "Email Receipt"), &frmMain::emailSelectedReceipt,
-         false},
-        {nullptr, nullptr, nullptr, false},
-        {"mnuView", QT_TRANSLATE_NOOP("frmMain", "View Receipt"), &frmMain::viewSelectedReceipt,
-         false},
-    };
-    return table;
 }
 
 const frmMain::Tool *frmMain::findTool(const QString &id) {
@@ -239,24 +273,17 @@ bool frmMain::isPlaceable(const QString &id) const {
     return entry && entry->command;
 }
 
+// Print, preview and e-mail go out through the receipt output: they join
+// the popup, in this order and each group between separators, once it is
+// there. View opens the row's receipt.
 void frmMain::createItemMenu() {
     mnuItem = new QMenu(tr("Item"), this);
     mnuItem->setObjectName(u"mnuItem"_s);
-    QList<QAction *> entries;
-    for (const ItemCommand &entry : itemCommands()) {
-        if (!entry.name) {
-            entries.append(nullptr);
-            continue;
-        }
-        auto *action = new QAction(caption(entry.caption), this);
-        action->setObjectName(QString::fromLatin1(entry.name));
-        if (const Command command = entry.command)
-            connect(action, &QAction::triggered, this,
-                    [this, command] { runItemCommand(command); });
-        if (entry.ready)
-            entries.append(action);
-    }
-    addWithSeparators(mnuItem, entries);
+    connect(ui->mnuEmail, &QAction::triggered, this,
+            [this] { runItemCommand(&frmMain::emailSelectedReceipt); });
+    connect(ui->mnuView, &QAction::triggered, this,
+            [this] { runItemCommand(&frmMain::viewSelectedReceipt); });
+    mnuItem->addAction(ui->mnuView);
 }
 
 void frmMain::toolClick(const QString &id) {

@@ -10,18 +10,21 @@
 #include "app/session.h"
 #include "mainwin/frmabout.h"
 #include "mainwin/frmmain.h"
+#include "platform/manual.h"
 #include "platform/registry.h"
 #include "receipts/receipt.h"
 #include "support/briskotest.h"
+#include "website.h"
 
 #include <QAction>
-#include <QContextMenuEvent>
+#include <QDialog>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QTest>
 #include <QToolBar>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <functional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -44,32 +47,33 @@ protected:
     }
 };
 
-QStringList textsOf(const QTreeWidgetItem *item) {
+// The texts of `row` of a list, or its headers for row -1.
+QStringList textsOf(const QTreeView *list, int row) {
+    const QAbstractItemModel &model = *list->model();
     QStringList texts;
-    for (int column = 0; column < item->columnCount(); ++column)
-        texts.append(item->text(column));
+    for (int column = 0; column < model.columnCount(); ++column)
+        texts.append(row < 0 ? model.headerData(column, Qt::Horizontal).toString()
+                             : model.index(row, column).data().toString());
     return texts;
 }
 
-QList<qint32> rowTags(const QTreeWidget *list) {
+int rowsOf(const QTreeView *list) {
+    return list->model()->rowCount();
+}
+
+QList<qint32> rowTags(const QTreeView *list) {
     QList<qint32> tags;
-    for (int row = 0; row < list->topLevelItemCount(); ++row)
-        tags.append(list->topLevelItem(row)->data(0, Qt::UserRole).toInt());
+    for (int row = 0; row < rowsOf(list); ++row)
+        tags.append(list->model()->index(row, 0).data(Qt::UserRole).toInt());
     return tags;
 }
 
-// A right click on `row`, or on the empty list when row is -1.
-void rightClick(QTreeWidget *list, int row) {
-    QTreeWidgetItem *item = list->topLevelItem(row);
-    list->setCurrentItem(item);
-    const QPoint position = list->visualItemRect(item).center();
-    QContextMenuEvent event(QContextMenuEvent::Mouse, position,
-                            list->viewport()->mapToGlobal(position));
-    QCoreApplication::sendEvent(list->viewport(), &event);
+void selectRow(QTreeView *list, int row) {
+    list->setCurrentIndex(list->model()->index(row, 0));
 }
 
 // The events of a real double click: a click, then the double click.
-void doubleClick(QTreeWidget *list, const QPoint &position) {
+void doubleClick(QTreeView *list, const QPoint &position) {
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, position);
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, position);
     QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, position);
@@ -126,12 +130,9 @@ protected:
              Currency::fromText(QString::fromLatin1(balance)), int(status), int(type)}));
     }
 
-    QTreeWidget *today() const { return window->findChild<QTreeWidget *>(u"lstReceipts"_s); }
-    QTreeWidget *month() const { return window->findChild<QTreeWidget *>(u"lstMonth"_s); }
+    QTreeView *today() const { return control<QTreeView>(*window, u"lstReceipts"_s); }
+    QTreeView *month() const { return control<QTreeView>(*window, u"lstMonth"_s); }
     QAction *entry(const QString &name) const { return window->findChild<QAction *>(name); }
-    QStringList row(const QTreeWidget *list, int at) const {
-        return textsOf(list->topLevelItem(at));
-    }
     QString panel() const { return window->findChild<QLabel *>(u"pnlDatabase"_s)->text(); }
 
     // 1 for each enabled tool or entry of `names`, 0 for each disabled one.
@@ -160,22 +161,22 @@ TEST_F(MainWindowTest, ListsShowTheSalesColumnsFormatsAndTags) {
                QDateTime(QDate::currentDate(), QTime(9, 30)));
     window->refreshLists();
 
-    EXPECT_EQ(textsOf(today()->headerItem()),
-              (QStringList{u"Date"_s, u"Receipt No."_s, u"Customer Name"_s, u"Total"_s, u"Rcvd"_s,
-                           u"Status"_s}));
+    EXPECT_EQ(textsOf(today(), -1), (QStringList{u"Date"_s, u"Receipt No."_s, u"Customer Name"_s,
+                                                 u"Total"_s, u"Rcvd"_s, u"Status"_s}));
     const QString date = Runtime::generalDate(todayAtMidnight());
-    ASSERT_EQ(today()->topLevelItemCount(), 5) << "the opening balance is not a sale";
-    EXPECT_EQ(row(today(), 0), (QStringList{date, u"0001"_s, u"Ann O'Smith"_s, u"50.00"_s,
-                                            u"50.00"_s, u"Issued"_s}));
-    EXPECT_EQ(row(today(), 1), (QStringList{date, u"0002"_s, u"Ann O'Smith"_s, u"100.00"_s,
-                                            u"60.00"_s, u"Issued"_s}));
-    EXPECT_EQ(row(today(), 2)[3], u"1,234.50"_s);
-    EXPECT_EQ(row(today(), 3).mid(3, 2), (QStringList{u".00"_s, u".00"_s}));
-    EXPECT_EQ(row(today(), 4)[5], u"Void"_s);
+    ASSERT_EQ(rowsOf(today()), 5) << "the opening balance is not a sale";
+    EXPECT_EQ(textsOf(today(), 0), (QStringList{date, u"0001"_s, u"Ann O'Smith"_s, u"50.00"_s,
+                                                u"50.00"_s, u"Issued"_s}));
+    EXPECT_EQ(textsOf(today(), 1), (QStringList{date, u"0002"_s, u"Ann O'Smith"_s, u"100.00"_s,
+                                                u"60.00"_s, u"Issued"_s}));
+    EXPECT_EQ(textsOf(today(), 2)[3], u"1,234.50"_s);
+    EXPECT_EQ(textsOf(today(), 3).mid(3, 2), (QStringList{u".00"_s, u".00"_s}));
+    EXPECT_EQ(textsOf(today(), 4)[5], u"Void"_s);
     EXPECT_EQ(rowTags(today()), (QList<qint32>{onAccount, partlyPaid, large, nothing, voided}));
     EXPECT_EQ(rowTags(month()), rowTags(today()));
     for (const int column : {3, 4})
-        EXPECT_TRUE(today()->topLevelItem(0)->textAlignment(column) & Qt::AlignRight);
+        EXPECT_TRUE(today()->model()->index(0, column).data(Qt::TextAlignmentRole).toInt() &
+                    Qt::AlignRight);
     EXPECT_TRUE(boxes().shown.isEmpty());
 }
 
@@ -186,7 +187,7 @@ TEST_F(MainWindowTest, AReceiptWithoutItsCustomerEndsTheListWithTheNullError) {
     addReceipt(u"0003"_s, "7");
     db::execute(u"UPDATE tblReceipt SET payeeID = NULL WHERE receiptID = ?"_s, {orphan});
     window->refreshLists();
-    EXPECT_EQ(today()->topLevelItemCount() + month()->topLevelItemCount(), 2);
+    EXPECT_EQ(rowsOf(today()) + rowsOf(month()), 2);
     EXPECT_EQ(boxes().lines(),
               QStringList(2, u"Error | An error has occured:  Invalid use of Null | Critical"_s));
 }
@@ -194,30 +195,30 @@ TEST_F(MainWindowTest, AReceiptWithoutItsCustomerEndsTheListWithTheNullError) {
 // Work done while a receipt is open shows once it closes, on both lists.
 TEST_F(MainWindowTest, DoubleClickAndPopupOpenTheRowsReceiptAndReloadBothLists) {
     window->refreshLists();
-    EXPECT_EQ(today()->topLevelItemCount() + month()->topLevelItemCount(), 0);
+    EXPECT_EQ(rowsOf(today()) + rowsOf(month()), 0);
     doubleClick(today(), QPoint(20, 20));
     EXPECT_TRUE(window->shownReceipts.isEmpty());
-    rightClick(month(), -1);
+    EXPECT_FALSE(triggerPopupEntry(month(), u"mnuView"_s));
     EXPECT_EQ(enabled(popupEntries), u"0000"_s);
 
     const qint32 first = addReceipt(u"0001"_s, "5");
     const qint32 second = addReceipt(u"0002"_s, "6");
     window->refreshLists();
     window->whileShown = [&] { addReceipt(u"0003"_s, "7"); };
-    doubleClick(month(), month()->visualItemRect(month()->topLevelItem(1)).center());
+    doubleClick(month(), month()->visualRect(month()->model()->index(1, 0)).center());
     EXPECT_EQ(window->shownReceipts, QList<qint32>{second});
-    EXPECT_EQ(today()->topLevelItemCount() + month()->topLevelItemCount(), 6);
+    EXPECT_EQ(rowsOf(today()) + rowsOf(month()), 6);
 
     // View opens the selected row of the list the popup came from.
-    rightClick(month(), 1);
-    rightClick(today(), 0);
-    EXPECT_EQ(enabled(popupEntries), u"1111"_s);
+    selectRow(month(), 1);
+    selectRow(today(), 0);
     window->whileShown = [&] {
         db::execute(u"DELETE FROM tblReceipt WHERE receiptID = ?"_s, {second});
     };
-    entry(u"mnuView"_s)->trigger();
+    EXPECT_TRUE(triggerPopupEntry(today(), u"mnuView"_s));
+    EXPECT_EQ(enabled(popupEntries), u"1111"_s);
     EXPECT_EQ(window->shownReceipts, (QList<qint32>{second, first}));
-    EXPECT_EQ(today()->topLevelItemCount() + month()->topLevelItemCount(), 4);
+    EXPECT_EQ(rowsOf(today()) + rowsOf(month()), 4);
     EXPECT_TRUE(boxes().shown.isEmpty());
 
     company().mailServer.clear();
@@ -232,7 +233,7 @@ TEST_F(MainWindowTest, DoubleClickAndPopupOpenTheRowsReceiptAndReloadBothLists) 
 TEST_F(MainWindowTest, RightsOfTheAnonymousAndTheLoggedInUserSwitchTheTools) {
     addReceipt(u"0001"_s, "5");
     ASSERT_TRUE(window->load());
-    EXPECT_EQ(today()->topLevelItemCount(), 1);
+    EXPECT_EQ(rowsOf(today()), 1);
     const SystemUser &anonymous = *session().currentUser;
     EXPECT_EQ((QList<int>{anonymous.userID, anonymous.canDelete, anonymous.canEdit,
                           anonymous.canVoid, anonymous.isAdmin, anonymous.canRunReports}),
@@ -272,15 +273,22 @@ TEST_F(MainWindowTest, RightsOfTheAnonymousAndTheLoggedInUserSwitchTheTools) {
 
 // A tool shows only once it has a command: no dead buttons.
 TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
+    EXPECT_EQ(controlsWithoutAccessibleName(*window), QStringList());
     EXPECT_EQ(entriesOf(window->findChild<QMenuBar *>(u"ToolBar2"_s)),
-              (QStringList{u"&File"_s, u"&Help"_s}));
-    EXPECT_EQ(entriesOf(window->tool(u"ID_File"_s)->menu()) +
-                  entriesOf(window->tool(u"ID_Help"_s)->menu()),
-              (QStringList{u"Open Database"_s, u"-"_s, u"E&xit"_s, u"What's New?"_s, u"-"_s,
-                           u"About Brisko"_s}));
+              (QStringList{u"&File"_s, u"&Tools"_s, u"&Help"_s}));
+    EXPECT_EQ(entriesOf(window->tool(u"ID_Tools"_s)->menu()),
+              (QStringList{u"Customers"_s, u"-"_s, u"Maintenance"_s}));
+    EXPECT_EQ(entriesOf(window->findChild<QToolBar *>(u"ToolBar1"_s)),
+              (QStringList{u"Inventory"_s, u"-"_s, u"Customers"_s}));
+    EXPECT_EQ(
+        entriesOf(window->tool(u"ID_File"_s)->menu()) +
+            entriesOf(window->tool(u"ID_Maintenance"_s)->menu()) +
+            entriesOf(window->tool(u"ID_Help"_s)->menu()),
+        (QStringList{u"Open Database"_s, u"-"_s, u"Multi-User Settings"_s, u"-"_s, u"E&xit"_s,
+                     u"Service Descriptions"_s, u"Inventory"_s, u"-"_s, u"Payment Methods"_s,
+                     u"-"_s, u"Backup Database"_s, u"Restore Database"_s, u"Contents"_s, u"-"_s,
+                     u"What's New?"_s, u"Check for Updates"_s, u"-"_s, u"About Brisko"_s}));
     EXPECT_EQ(window->tool(u"ID_Exit"_s)->shortcut(), QKeySequence(u"Ctrl+Q"_s));
-    EXPECT_TRUE(window->findChild<QToolBar *>(u"ToolBar1"_s)->isHidden())
-        << "nothing on it has a command yet";
     // Every tool is in the pool under its id, placed or not; one without a
     // command does nothing.
     EXPECT_EQ(window->tool(u"ID_Multi-UserSettings"_s)->text(), u"Multi-User Settings"_s);
@@ -289,15 +297,15 @@ TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
 
     window->tool(u"ID_WhatsNew"_s)->trigger();
     EXPECT_EQ(process().opened,
-              QList<QUrl>{QUrl(u"https://brisko.example/whats-new-in-brisko-4-2-5"_s)});
-    QStringList about;
-    driveModal<frmAbout>([&] { window->toolClick(u"ID_AboutBrisko"_s); },
-                         [&](frmAbout &box) {
-                             about << box.windowTitle()
-                                   << box.findChild<QLabel *>(u"lblName"_s)->text()
-                                   << box.findChild<QLabel *>(u"lblVersion"_s)->text();
-                             box.accept();
-                         });
+              QList<QUrl>{QUrl(QString::fromUtf8(kWebsite) + u"/whats-new-in-brisko-4-2-5"_s)});
+    const QStringList about = driveModal<frmAbout>(
+        [&] { window->toolClick(u"ID_AboutBrisko"_s); },
+        [](frmAbout &box) {
+            EXPECT_EQ(controlsWithoutAccessibleName(box), QStringList());
+            click(box, u"cmdOK"_s);
+            return QStringList{box.windowTitle(), control<QLabel>(box, u"lblName"_s)->text(),
+                               control<QLabel>(box, u"lblVersion"_s)->text()};
+        });
     EXPECT_EQ(about, (QStringList{u"About Brisko"_s, u"Brisko"_s, u"Version 4.2.5"_s}));
 
     window->tool(u"ID_Exit"_s)->trigger();
@@ -307,6 +315,23 @@ TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
     EXPECT_EQ(process().endProgramCalls, 2);
     EXPECT_EQ(process().endProcessCalls, 0);
     EXPECT_TRUE(boxes().shown.isEmpty()) << "no question on the way out";
+}
+
+// "Contents", and F1 wherever the user is, open the manual in the browser.
+TEST_F(MainWindowTest, HelpOpensTheManualFromEveryWindow) {
+    Manual::installHelpKey(*QCoreApplication::instance());
+    window->tool(u"ID_Contents"_s)->trigger();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window.get(), Qt::Key_F1);
+
+    QDialog screen;
+    auto *field = new QLineEdit(&screen);
+    screen.show();
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_F1);
+    EXPECT_EQ(process().opened, QList<QUrl>(3, Manual::contentsPage()));
+    EXPECT_TRUE(Manual::contentsPage().toLocalFile().endsWith(u"/manual/index.html"_s));
 }
 
 // Refused in multi-user mode; cancelled or failed, it ends without a word.
@@ -347,12 +372,12 @@ TEST_F(MainWindowTest, OpenDatabaseIsRefusedFailsSilentlyOrSwitchesFiles) {
                            u"Open Database | "_s, u"Open Database | "_s, u"Open Database | "_s,
                            u"Success | Database has been changed | Information"_s}));
     EXPECT_EQ(session().dbPath, second);
-    EXPECT_EQ(Utility::RegGetString(u"lastDB"_s), second);
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::lastDB), second);
     EXPECT_EQ(company().companyName, u"New Shop"_s);
     EXPECT_EQ(window->windowTitle(), u"Brisko - Old Shop"_s) << "the caption keeps the old name";
     EXPECT_EQ(panel(), second);
-    ASSERT_EQ(today()->topLevelItemCount(), 1);
-    EXPECT_EQ(row(today(), 0).mid(1, 4),
+    ASSERT_EQ(rowsOf(today()), 1);
+    EXPECT_EQ(textsOf(today(), 0).mid(1, 4),
               (QStringList{u"S-1"_s, u"Ann O'Smith"_s, u"12.50"_s, u"12.50"_s}));
     // A new anonymous user without the reports right; the report tools keep
     // the state they had.
