@@ -15,33 +15,26 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-using Where = ReportOutputTest::Delivered::Where;
-
 class MainWindowOutputTest : public ReportOutputTest {
 protected:
+    // Where each delivery went and its title or addressee, in order.
+    QStringList deliveries() {
+        QStringList out;
+        for (const Delivered &each : delivery().delivered) {
+            out.append(each.where == Delivered::Where::Printer  ? u"printer "_s + each.report.title
+                       : each.where == Delivered::Where::Screen ? u"screen "_s + each.report.title
+                                                                : u"mail "_s + each.mail.to);
+        }
+        return out;
+    }
+
     void SetUp() override {
         ReportOutputTest::SetUp();
         window = std::make_unique<frmMain>();
-        window->show();
     }
     void TearDown() override {
         window.reset();
         ReportOutputTest::TearDown();
-    }
-
-    QTreeView *list(const QString &name) const { return control<QTreeView>(*window, name); }
-
-    // Where each delivery went and the title it had, in order.
-    QStringList deliveries() {
-        QStringList out;
-        for (const Delivered &each : delivery().delivered) {
-            const char16_t *where = each.where == Where::Printer  ? u"printer"
-                                    : each.where == Where::Screen ? u"screen"
-                                                                  : u"mail";
-            out.append(QString::fromUtf16(where) + u" | "_s +
-                       (each.where == Where::Mail ? each.mail.to : each.report.title));
-        }
-        return out;
     }
 
     std::unique_ptr<frmMain> window;
@@ -52,36 +45,37 @@ TEST_F(MainWindowOutputTest, PopupPrintsPreviewsAndMailsTheSelectedReceipt) {
     const QDateTime today(QDate::currentDate(), QTime(0, 0));
     addProductReceipt(u"A-1"_s, today, addCustomer(u"Ann"_s, u"ann@example.org"_s), {});
     addProductReceipt(u"A-2"_s, today, addCustomer(u"Bo"_s, u"bo@example.org"_s), {});
+    window->show();
     window->refreshLists();
-    list(u"lstReceipts"_s)->setCurrentIndex(list(u"lstReceipts"_s)->model()->index(1, 0));
+    auto *sales = control<QTreeView>(*window, u"lstReceipts"_s);
+    sales->setCurrentIndex(sales->model()->index(1, 0));
 
-    EXPECT_TRUE(triggerPopupEntry(list(u"lstReceipts"_s), u"mnuPrint"_s));
-    EXPECT_TRUE(triggerPopupEntry(list(u"lstMonth"_s), u"mnuPrintPreview"_s));
+    EXPECT_TRUE(triggerPopupEntry(sales, u"mnuPrint"_s));
+    EXPECT_TRUE(
+        triggerPopupEntry(control<QTreeView>(*window, u"lstMonth"_s), u"mnuPrintPreview"_s));
     company().mailServer.clear();
-    EXPECT_TRUE(triggerPopupEntry(list(u"lstReceipts"_s), u"mnuEmail"_s));
+    EXPECT_TRUE(triggerPopupEntry(sales, u"mnuEmail"_s));
     company().mailServer = u"smtp.example.org"_s;
-    EXPECT_TRUE(triggerPopupEntry(list(u"lstReceipts"_s), u"mnuEmail"_s));
+    EXPECT_TRUE(triggerPopupEntry(sales, u"mnuEmail"_s));
 
-    EXPECT_EQ(deliveries(), (QStringList{u"printer | Receipt A-2"_s, u"screen | Receipt A-1"_s,
-                                         u"mail | bo@example.org"_s}));
+    EXPECT_EQ(deliveries(), (QStringList{u"printer Receipt A-2"_s, u"screen Receipt A-1"_s,
+                                         u"mail bo@example.org"_s}));
     EXPECT_EQ(boxes().titles(), (QStringList{u"Email Settings Required"_s, u"Email Receipt"_s}));
     EXPECT_EQ(boxes().lines().last(), u"Email Receipt | Receipt has been sent | Information"_s);
 }
 
-// Every ledger opens on the screen; the menu's caption is not always the title.
-TEST_F(MainWindowOutputTest, ReportsMenuOpensEachLedgerOnTheScreen) {
+// Every ledger opens on the screen, the menu's caption not always its title.
+// The Report Manager has no menu entry; its id alone opens it.
+TEST_F(MainWindowOutputTest, ReportsMenuOpensEachLedgerAndTheManagerOpensByItsId) {
     for (const char16_t *id :
          {u"ID_ReceiptLedger", u"ID_ProductLedgerDetail", u"ID_ServiceLedgerDetail",
           u"ID_RptService", u"ID_InventorySoldDetail"})
         window->tool(QString::fromUtf16(id))->trigger();
     EXPECT_EQ(deliveries(),
-              (QStringList{u"screen | Receipt Ledger"_s, u"screen | Inventory Sold Ledger"_s,
-                           u"screen | Service Ledger"_s, u"screen | Service Breakdown Report"_s,
-                           u"screen | Inventory Sold Detail Ledger"_s}));
-    EXPECT_TRUE(boxes().shown.isEmpty());
-}
+              (QStringList{u"screen Receipt Ledger"_s, u"screen Inventory Sold Ledger"_s,
+                           u"screen Service Ledger"_s, u"screen Service Breakdown Report"_s,
+                           u"screen Inventory Sold Detail Ledger"_s}));
 
-TEST_F(MainWindowOutputTest, ReportManagerOpensByItsIdAlone) {
     const int templates =
         driveModal<frmReports>([&] { window->toolClick(u"ID_ReportManager"_s); },
                                [](frmReports &screen) {
@@ -91,6 +85,7 @@ TEST_F(MainWindowOutputTest, ReportManagerOpensByItsIdAlone) {
     EXPECT_EQ(templates, 5);
     for (const QMenu *menu : window->findChildren<QMenu *>())
         EXPECT_FALSE(menu->actions().contains(window->tool(u"ID_ReportManager"_s)));
+    EXPECT_TRUE(boxes().shown.isEmpty());
 }
 
 } // namespace
