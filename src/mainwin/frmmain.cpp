@@ -218,19 +218,34 @@ void frmMain::openReceipt(qint32 receiptID) {
     refreshLists();
 }
 
-void frmMain::viewSelectedReceipt() {
+qint32 frmMain::selectedReceiptID() const {
     const QTreeView *list = selectedListView();
     QModelIndex row = list->currentIndex();
     if (!row.isValid())
         row = list->model()->index(0, 0);
-    if (row.isValid())
-        openReceipt(row.data(ReceiptListModel::ReceiptIDRole).toInt());
+    return row.isValid() ? row.data(ReceiptListModel::ReceiptIDRole).toInt() : 0;
+}
+
+void frmMain::viewSelectedReceipt() {
+    if (const qint32 receiptID = selectedReceiptID())
+        openReceipt(receiptID);
+}
+
+void frmMain::printSelectedReceipt() {
+    if (const qint32 receiptID = selectedReceiptID())
+        modReports::printReceipt(receiptID, modReports::PrinterMode);
+}
+
+void frmMain::previewSelectedReceipt() {
+    if (const qint32 receiptID = selectedReceiptID())
+        modReports::printReceipt(receiptID, modReports::ScreenMode);
 }
 
 void frmMain::emailSelectedReceipt() {
     if (!modReports::emailIsSetUp())
         return;
-    // The sending itself goes through the receipt output.
+    if (const qint32 receiptID = selectedReceiptID())
+        modReports::emailReceipt(receiptID);
 }
 
 void frmMain::showError(const BriskoError &error) {

@@ -59,14 +59,14 @@ private:
     using Command = void (frmMain::*)();
 
     // One tool of the pool, one row of the table in mainwintools.cpp. A tool
-    // without a command stands in no menu and on no bar, yet it exists, so
-    // that the rights apply to it.
+    // with neither a command nor a report type stands in no menu and on no
+    // bar, yet it exists, so that the rights apply to it.
     struct Tool {
         const char *id;
         const char *caption;
         // A routine of the window, or showModal<Screen> for a modal screen.
         Command command = nullptr;
-        // A ledger: the report type it prints, once the report output is there.
+        // A ledger: the report type it opens on the screen.
         std::optional<qint16> reportType = std::nullopt;
         const char *shortcut = nullptr;     // given once the tool has its command
         const char *themeIcon = nullptr;    // from the desktop's icon theme ...
@@ -122,8 +122,13 @@ private:
     void showItemMenu(QTreeView *list, const QPoint &position);
     void runItemCommand(Command command);
     QTreeView *selectedListView() const;
+    // The receipt of the selected row of the popup's list, or of its first
+    // row when none is selected; 0 when the list is empty.
+    qint32 selectedReceiptID() const;
     void openReceipt(qint32 receiptID);
     void viewSelectedReceipt();
+    void printSelectedReceipt();
+    void previewSelectedReceipt();
     void emailSelectedReceipt();
     void showError(const BriskoError &error);
 

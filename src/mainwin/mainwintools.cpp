@@ -3,9 +3,10 @@
 //
 // A new tool is one row of the table below: its id, caption, shortcut and
 // icons, and its command, a routine of the window or showModal<frmX> for a
-// tool that opens a modal screen; a ledger row names its report type. A tool
-// appears in a menu or on the icon bar only once it has a command; until then
-// it exists in the pool alone, so that the rights still apply to it. Separators that would end up
+// tool that opens a modal screen; a ledger row names its report type instead,
+// and a click opens that ledger on the screen. A tool appears in a menu or on
+// the icon bar only once it has a command or a report type; until then it
+// exists in the pool alone, so that the rights still apply to it. Separators that would end up
 // doubled, first or last are left out, and a menu with nothing in it is left out too.
 
 #include "mainwin/frmmain.h"
@@ -19,6 +20,8 @@
 #include "catalogue/frmservice.h"
 #include "customers/frmcustomerlist.h"
 #include "mainwin/frmabout.h"
+#include "output/frmreports.h"
+#include "output/modreports.h"
 #include "platform/briskoerror.h"
 
 #include <QCoreApplication>
@@ -159,8 +162,10 @@ const QList<frmMain::Tool> &frmMain::tools() {
          .command = &frmMain::showModal<frmAbout>,
          .themeIcon = "help-about",
          .fallbackIcon = ":/icons/about.png"},
-        // Opened from other screens by its id; no menu carries it.
-        {.id = "ID_ReportManager", .caption = QT_TRANSLATE_NOOP("frmMain", "Report Manager")},
+        // Opened by its id; no menu carries it.
+        {.id = "ID_ReportManager",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Report Manager"),
+         .command = &frmMain::showModal<frmReports>},
         // Kept in the pool for its id; it has never had a command.
         {.id = "ID_ServicesProvided", .caption = QT_TRANSLATE_NOOP("frmMain", "Services Provided")},
     };
@@ -270,25 +275,38 @@ bool frmMain::isPlaceable(const QString &id) const {
     if (const QMenu *menu = m_menus.value(id))
         return !menu->actions().isEmpty();
     const Tool *entry = findTool(id);
-    return entry && entry->command;
+    return entry && (entry->command || entry->reportType);
 }
 
-// Print, preview and e-mail go out through the receipt output: they join
-// the popup, in this order and each group between separators, once it is
-// there. View opens the row's receipt.
+// Print, preview and e-mail send the row's receipt through the receipt
+// output; view opens it.
 void frmMain::createItemMenu() {
     mnuItem = new QMenu(tr("Item"), this);
     mnuItem->setObjectName(u"mnuItem"_s);
-    connect(ui->mnuEmail, &QAction::triggered, this,
-            [this] { runItemCommand(&frmMain::emailSelectedReceipt); });
-    connect(ui->mnuView, &QAction::triggered, this,
-            [this] { runItemCommand(&frmMain::viewSelectedReceipt); });
+    const std::pair<QAction *, Command> commands[] = {
+        {ui->mnuPrint, &frmMain::printSelectedReceipt},
+        {ui->mnuPrintPreview, &frmMain::previewSelectedReceipt},
+        {ui->mnuEmail, &frmMain::emailSelectedReceipt},
+        {ui->mnuView, &frmMain::viewSelectedReceipt}};
+    for (const auto &[entry, command] : commands)
+        connect(entry, &QAction::triggered, this, [this, command] { runItemCommand(command); });
+    mnuItem->addActions({ui->mnuPrint, ui->mnuPrintPreview});
+    mnuItem->addSeparator();
+    mnuItem->addAction(ui->mnuEmail);
+    mnuItem->addSeparator();
     mnuItem->addAction(ui->mnuView);
 }
 
 void frmMain::toolClick(const QString &id) {
     const Tool *entry = findTool(id);
-    if (!entry || !entry->command)
+    if (!entry)
+        return;
+    // A ledger shows its own failures.
+    if (entry->reportType) {
+        modReports::printLedger(*entry->reportType, modReports::ScreenMode, {}, {}, {});
+        return;
+    }
+    if (!entry->command)
         return;
     try {
         (this->*entry->command)();

@@ -2,6 +2,7 @@
 
 #include "app/company.h"
 #include "app/session.h"
+#include "customers/payee.h"
 #include "output/reportrunner.h"
 #include "platform/briskoerror.h"
 #include "platform/dialogs.h"
@@ -26,13 +27,11 @@ void showPrintError(const BriskoError &error) {
                       tr("Error"), Dialogs::Icon::Critical);
 }
 
-// The customer's address for a mailed receipt.
+// The customer's address for a mailed receipt; empty when the customer is gone.
 QString payeeEmail(qint32 payeeID) {
-    return reraiseWithPrefix(u"Payee.loadPayeeInfo:  "_s, [payeeID] {
-        const std::optional<db::Row> row =
-            db::readFirst(u"SELECT email FROM tblPayee WHERE payeeID = ?"_s, {payeeID});
-        return row ? row->textOr(u"email"_s, {}) : QString();
-    });
+    Payee payee;
+    payee.LoadPayeeInfo(payeeID);
+    return payee.email;
 }
 
 QString receiptMailBody(const QString &receiptNumber) {
