@@ -28,8 +28,13 @@ public:
     Handle(const QString &path, int flags) {
         const int result =
             sqlite3_open_v2(QFile::encodeName(path).constData(), &m_handle, flags, nullptr);
-        if (result != SQLITE_OK)
-            fail(result);
+        if (result != SQLITE_OK) {
+            // A handle that failed to open is still allocated, and the
+            // destructor of a half-built object never runs.
+            const BriskoError error = errorOf(result);
+            sqlite3_close_v2(m_handle);
+            throw error;
+        }
         sqlite3_busy_timeout(m_handle, kBusyTimeoutMs);
     }
     ~Handle() { sqlite3_close_v2(m_handle); }
@@ -38,9 +43,11 @@ public:
 
     sqlite3 *get() const { return m_handle; }
 
-    [[noreturn]] void fail(int result) const {
+    [[noreturn]] void fail(int result) const { throw errorOf(result); }
+
+    BriskoError errorOf(int result) const {
         const char *message = m_handle ? sqlite3_errmsg(m_handle) : sqlite3_errstr(result);
-        throw BriskoError(result, QString::fromUtf8(message));
+        return BriskoError(result, QString::fromUtf8(message));
     }
 
     // The first column of every row of `sql`, as text.
