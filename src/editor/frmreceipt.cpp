@@ -129,6 +129,7 @@ frmReceipt::frmReceipt(QWidget *parent)
     for (int column = 0; column < std::ssize(kProductColumnWidths); ++column)
         header->resizeSection(column, kProductColumnWidths[column]);
     header->setStretchLastSection(true);
+    header->setAccessibleName(tr("Product columns"));
     ui->lstProducts->headerItem()->setTextAlignment(3, Qt::AlignRight | Qt::AlignVCenter);
     ui->lstProducts->headerItem()->setTextAlignment(4, Qt::AlignRight | Qt::AlignVCenter);
     connectControls();
@@ -291,6 +292,8 @@ void frmReceipt::loadCustomFields() {
         const bool used = !names[index].isEmpty();
         labels[index]->setText(used ? names[index] : QString());
         fields[index]->setVisible(used);
+        fields[index]->setAccessibleName(used ? names[index]
+                                              : tr("Custom field %1").arg(index + 1));
         if (used) {
             hasCustomFields = true;
             if (!firstCustomField)
@@ -309,6 +312,7 @@ void frmReceipt::loadServices() {
 }
 
 void frmReceipt::loadStates() {
+    ui->txtState->view()->setAccessibleName(tr("States and provinces"));
     ui->txtState->clear();
     ui->txtState->addItems(stateEntries());
 }
@@ -545,9 +549,11 @@ bool frmReceipt::eventFilter(QObject *watched, QEvent *event) {
         return customerMatchKey(static_cast<QKeyEvent *>(event));
     if ((watched == ui->txtDue || watched == ui->txtRecvd) && event->type() == QEvent::FocusOut) {
         const auto reason = static_cast<QFocusEvent *>(event)->reason();
-        // Only a move within the screen checks; a box or another window does not.
+        // Only a move within the screen checks; a box or another window does
+        // not. The check runs once the focus has arrived, so that it can move it back.
+        auto *field = static_cast<QLineEdit *>(watched);
         if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
-            checkAmountField(static_cast<QLineEdit *>(watched));
+            QTimer::singleShot(0, field, [this, field] { checkAmountField(field); });
         return false;
     }
     if (watched == ui->txtDesc && event->type() == QEvent::FocusIn)
