@@ -16,6 +16,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QStyle>
 #include <QTimer>
 
@@ -125,13 +126,19 @@ frmReceipt::frmReceipt(QWidget *parent)
     for (int index = 0; index < 3; ++index)
         ui->optView->setId(ui->optView->buttons().at(index), index);
     createToolIcons();
+    // The date as the program writes it everywhere: the user's short date
+    // with all four digits of the year.
+    QString dateFormat = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!dateFormat.contains(u"yyyy"_s))
+        dateFormat.replace(u"yy"_s, u"yyyy"_s);
+    ui->txtReceiptDate->setDisplayFormat(dateFormat);
     QHeaderView *header = ui->lstProducts->header();
     for (int column = 0; column < std::ssize(kProductColumnWidths); ++column)
         header->resizeSection(column, kProductColumnWidths[column]);
     header->setStretchLastSection(true);
     header->setAccessibleName(tr("Product columns"));
-    ui->lstProducts->headerItem()->setTextAlignment(3, Qt::AlignRight | Qt::AlignVCenter);
-    ui->lstProducts->headerItem()->setTextAlignment(4, Qt::AlignRight | Qt::AlignVCenter);
+    for (int column : {0, 3, 4})
+        ui->lstProducts->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
     connectControls();
     prepareCustomerMatching();
 }

@@ -29,7 +29,7 @@ const QString kMatchStatement =
 
 constexpr int kPanelHeight = 210;
 constexpr int kPanelMaxWidth = 760;
-constexpr int kMatchColumnWidths[] = {80, 180, 160, 90, 110, 60};
+constexpr int kMatchColumnWidths[] = {75, 170, 150, 90, 110, 60};
 
 CustomerMatch matchOf(const db::Cells &cells) {
     return {cells.int32(0), cells.text(1), cells.text(2), cells.text(3),
@@ -43,9 +43,12 @@ void frmReceipt::prepareCustomerMatching() {
     ui->lstCustomerMatch->setModel(m_matches);
     QHeaderView *header = ui->lstCustomerMatch->header();
     header->setAccessibleName(tr("Customer columns"));
+    header->setDefaultSectionSize(kMatchColumnWidths[std::size(kMatchColumnWidths) - 1]);
     for (int column = 0; column < std::ssize(kMatchColumnWidths); ++column)
         header->resizeSection(column, kMatchColumnWidths[column]);
     header->setStretchLastSection(true);
+    // The columns fit the panel; a long text is cut short rather than scrolled.
+    ui->lstCustomerMatch->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     ui->Image1->setIcon(
         QIcon::fromTheme(u"window-close"_s, style()->standardIcon(QStyle::SP_TitleBarCloseButton)));
 
