@@ -7,6 +7,7 @@
 #include "app/screenlinks.h"
 #include "app/session.h"
 #include "editortest.h"
+#include "output/reportdelivery.h"
 #include "receipts/receipt.h"
 
 #include <QCheckBox>
@@ -92,6 +93,11 @@ TEST_F(ReceiptEditorTest, ANewReceiptOpensInTheDefaultKindWithTheCompanysSetting
         Q_EMIT services->activated(0);
         EXPECT_EQ(textsOf(screen, {u"txtDesc"_s, u"txtDue"_s, u"lblSubTotal"_s}),
                   u"Repair of one bicycle | 1,234.50 | 1234.50"_s);
+
+        // Tab from the receiver goes on to the first custom field in use.
+        QTest::keyClick(control<QLineEdit>(screen, u"txtRecvdBy"_s), Qt::Key_Tab);
+        EXPECT_EQ(control<QTabWidget>(screen, u"SSTab1"_s)->currentIndex(), 1);
+        EXPECT_EQ(screen.focusWidget(), control<QWidget>(screen, u"txtCustom2"_s));
         return 0;
     });
     EXPECT_TRUE(boxes().shown.isEmpty());
@@ -236,6 +242,64 @@ TEST_F(ReceiptEditorTest, BeginEditOpensTheFieldsAndBothSaves) {
                                    return states;
                                });
     EXPECT_EQ(seen, u"111111111111111"_s);
+}
+
+// Print and Print Preview send the shown receipt out through the receipt
+// output; a new receipt has nothing to print yet.
+class ReceiptOutputTest : public EditorTest {
+protected:
+    class Recording final : public ReportDelivery {
+    public:
+        QStringList delivered; // "printer" or "screen", and the report's title
+        bool askParameters(const QString &, const QList<ReportParameter> &,
+                           QHash<QString, QVariant> &) override {
+            return true;
+        }
+        void toPrinter(const RenderedReport &report) override {
+            delivered.append(u"printer "_s + report.title);
+        }
+        void toScreen(const RenderedReport &report) override {
+            delivered.append(u"screen "_s + report.title);
+        }
+        void toMail(const MailMessage &) override { delivered.append(u"mail"_s); }
+    };
+
+    void SetUp() override {
+        EditorTest::SetUp();
+        auto recording = std::make_unique<Recording>();
+        delivery = recording.get();
+        previous = installReportDelivery(std::move(recording));
+    }
+    void TearDown() override {
+        installReportDelivery(std::move(previous));
+        EditorTest::TearDown();
+    }
+
+    Recording *delivery = nullptr;
+    std::unique_ptr<ReportDelivery> previous;
+};
+
+TEST_F(ReceiptOutputTest, PrintAndPreviewSendTheShownReceipt) {
+    const qint32 id = addReceipt(addCustomer(u"Di"_s), [](Receipt &receipt) {
+        receipt.receiptNumber = u"P-9"_s;
+        receipt.receiptType = Receipt::ServiceReceipt;
+        receipt.receiptDesc = u"Tuning"_s;
+    });
+    withEditor(id, [](frmReceipt &screen) {
+        screen.findChild<QAction *>(u"ID_Print"_s)->trigger();
+        screen.findChild<QAction *>(u"ID_PrintPreview"_s)->trigger();
+        screen.previewReceipt();
+        return 0;
+    });
+    ASSERT_EQ(delivery->delivered.size(), 3) << boxes().lines().join(u'\n').toStdString();
+    EXPECT_TRUE(delivery->delivered[0].startsWith(u"printer"_s));
+    EXPECT_TRUE(delivery->delivered[1].startsWith(u"screen"_s));
+    EXPECT_TRUE(delivery->delivered[2].startsWith(u"screen"_s));
+    withEditor(0, [](frmReceipt &screen) {
+        screen.findChild<QAction *>(u"ID_Print"_s)->trigger();
+        return 0;
+    });
+    EXPECT_EQ(delivery->delivered.size(), 3);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 // matching is off.
 
 #include "app/company.h"
+#include "app/session.h"
 #include "customers/frmcustomerlist.h"
 #include "editortest.h"
 #include "receipts/receipt.h"
@@ -160,6 +161,8 @@ TEST_F(CustomerMatchingTest, WithoutMatchingTheCustomerListPicks) {
     EXPECT_EQ(panel(screen), QStringList{u"hidden"_s});
 
     // Tabbing back into the name does not open it again; a double click does.
+    // A user without the edit right takes the customer but cannot change it.
+    session().currentUser = userWith(u"cy"_s, 0, 0);
     name(screen)->setFocus(Qt::BacktabFocusReason);
     QTest::qWait(20);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
@@ -167,6 +170,9 @@ TEST_F(CustomerMatchingTest, WithoutMatchingTheCustomerListPicks) {
                                 pickFromList(u"Ann A"_s));
     EXPECT_EQ(textsOf(screen, {u"txtPayeeName"_s, u"lblID"_s, u"lblAcctBal"_s}),
               u"Ann Apple | %1 | 0.00"_s.arg(apple));
+    EXPECT_EQ(enabled(screen,
+                      {u"txtPayeeName"_s, u"txtCity"_s, u"txtState"_s, u"txtEmail"_s, u"txtDue"_s}),
+              u"00001"_s);
     EXPECT_TRUE(boxes().shown.isEmpty());
 }
 
