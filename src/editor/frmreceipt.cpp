@@ -581,14 +581,12 @@ bool frmReceipt::descriptionFocused() {
     return false;
 }
 
-// Tab from the receiver goes on to the custom fields when there are any;
-// without them the focus stays.
+// Tab from the receiver, the last field of a receipt, goes on to the custom
+// fields when there are any, and otherwise along the tab order.
 bool frmReceipt::receivedByKey(QKeyEvent *key) {
-    if (key->key() != Qt::Key_Tab || key->modifiers() != Qt::NoModifier)
+    if (key->key() != Qt::Key_Tab || key->modifiers() != Qt::NoModifier || !hasCustomFields)
         return false;
-    if (hasCustomFields) {
-        ui->SSTab1->setCurrentWidget(ui->tabCustomFields);
-        firstCustomField->setFocus();
-    }
+    ui->SSTab1->setCurrentWidget(ui->tabCustomFields);
+    firstCustomField->setFocus();
     return true;
 }

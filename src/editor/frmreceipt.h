@@ -7,8 +7,11 @@
 
 class CustomerMatchModel;
 class QAction;
+class QComboBox;
+class QKeyEvent;
 class QLineEdit;
 class QWidget;
+class Receipt;
 
 namespace Ui {
 class frmReceipt;
@@ -57,10 +60,10 @@ private:
     void loadServices();
     void loadStates();
     void loadReceipt();
-    void showReceipt(const class Receipt &receipt);
+    void showReceipt(const Receipt &receipt);
     void setStateText(const QString &state);
     void loadProducts();
-    void selectByData(class QComboBox *list, int data);
+    void selectByData(QComboBox *list, int data);
     void selectView(int index);
     void viewChanged(int index);
     void paymentTypeChanged();
@@ -75,7 +78,7 @@ private:
     void calculateTotals();
     bool checkAmountField(QLineEdit *field);
     bool descriptionFocused();
-    bool receivedByKey(class QKeyEvent *key);
+    bool receivedByKey(QKeyEvent *key);
 
     // The customer (receiptcustomer.cpp).
     void prepareCustomerMatching();
@@ -90,7 +93,7 @@ private:
     void hideCustomerPanel();
     void placeCustomerPanel();
     bool payeeNameEvent(QEvent *event);
-    bool customerMatchKey(class QKeyEvent *key);
+    bool customerMatchKey(QKeyEvent *key);
     void markCustomerChanged();
 
     std::unique_ptr<Ui::frmReceipt> ui;
