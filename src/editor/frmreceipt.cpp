@@ -32,75 +32,14 @@ constexpr int kProductColumnWidths[] = {50, 110, 240, 80, 80};
 // The states and provinces of the address, US first, then Canada's after an
 // empty divider.
 const QStringList &stateEntries() {
-    static const QStringList entries = {u""_s,
-                                        u"AL"_s,
-                                        u"AK"_s,
-                                        u"AZ"_s,
-                                        u"AR"_s,
-                                        u"AA"_s,
-                                        u"AP"_s,
-                                        u"AE"_s,
-                                        u"CA"_s,
-                                        u"CO"_s,
-                                        u"CT"_s,
-                                        u"DE"_s,
-                                        u"DC"_s,
-                                        u"FL"_s,
-                                        u"GA"_s,
-                                        u"HI"_s,
-                                        u"ID"_s,
-                                        u"IL"_s,
-                                        u"IN"_s,
-                                        u"IA"_s,
-                                        u"KS"_s,
-                                        u"KY"_s,
-                                        u"LA"_s,
-                                        u"ME"_s,
-                                        u"MD"_s,
-                                        u"MA"_s,
-                                        u"MI"_s,
-                                        u"MN"_s,
-                                        u"MS"_s,
-                                        u"MO"_s,
-                                        u"MT"_s,
-                                        u"NE"_s,
-                                        u"NV"_s,
-                                        u"NH"_s,
-                                        u"NJ"_s,
-                                        u"NM"_s,
-                                        u"NY"_s,
-                                        u"NC"_s,
-                                        u"ND"_s,
-                                        u"OH"_s,
-                                        u"OK"_s,
-                                        u"OR"_s,
-                                        u"PA"_s,
-                                        u"RI"_s,
-                                        u"SC"_s,
-                                        u"SD"_s,
-                                        u"TN"_s,
-                                        u"TX"_s,
-                                        u"UT"_s,
-                                        u"VT"_s,
-                                        u"VA"_s,
-                                        u"WA"_s,
-                                        u"WV"_s,
-                                        u"WI"_s,
-                                        u"WY"_s,
-                                        u""_s,
-                                        u"Alberta"_s,
-                                        u"British Columbia"_s,
-                                        u"Manitoba"_s,
-                                        u"New Brunswick"_s,
-                                        u"Newfoundland"_s,
-                                        u"N.W.T"_s,
-                                        u"Nova Scotia"_s,
-                                        u"Nunavut"_s,
-                                        u"Ontario"_s,
-                                        u"PEI"_s,
-                                        u"Quebec"_s,
-                                        u"Saskatchewan"_s,
-                                        u"Yukon"_s};
+    static const QString states =
+        u"AL,AK,AZ,AR,AA,AP,AE,CA,CO,CT,DE,DC,FL,GA,HI,ID,IL,IN,IA,KS,KY,LA,ME,MD,MA,MI,MN,MS,"
+        "MO,MT,NE,NV,NH,NJ,NM,NY,NC,ND,OH,OK,OR,PA,RI,SC,SD,TN,TX,UT,VT,VA,WA,WV,WI,WY"_s;
+    static const QString provinces =
+        u"Alberta,British Columbia,Manitoba,New Brunswick,Newfoundland,N.W.T,Nova Scotia,"
+        "Nunavut,Ontario,PEI,Quebec,Saskatchewan,Yukon"_s;
+    static const QStringList entries = QStringList{QString()} + states.split(u',') +
+                                       QStringList{QString()} + provinces.split(u',');
     return entries;
 }
 
@@ -113,6 +52,13 @@ bool userMay(qint16 SystemUser::*right) {
     return user && user->*right == 1;
 }
 
+// The entry of `list` whose item data is `data`; none leaves the selection.
+void selectByData(QComboBox *list, int data) {
+    const int index = list->findData(data);
+    if (index >= 0)
+        list->setCurrentIndex(index);
+}
+
 QIcon toolIcon(const QWidget *screen, const QString &theme, QStyle::StandardPixmap fallback) {
     return QIcon::fromTheme(theme, screen->style()->standardIcon(fallback));
 }
@@ -123,8 +69,9 @@ frmReceipt::frmReceipt(QWidget *parent)
     : ModalScreen(parent)
     , ui(std::make_unique<Ui::frmReceipt>()) {
     ui->setupUi(this);
-    for (int index = 0; index < 3; ++index)
-        ui->optView->setId(ui->optView->buttons().at(index), index);
+    ui->optView->setId(ui->optView0, Receipt::ProductReceipt);
+    ui->optView->setId(ui->optView1, Receipt::ServiceReceipt);
+    ui->optView->setId(ui->optView2, Receipt::AccountPayment);
     createToolIcons();
     // The date as the program writes it everywhere: the user's short date
     // with all four digits of the year.
@@ -132,6 +79,15 @@ frmReceipt::frmReceipt(QWidget *parent)
     if (!dateFormat.contains(u"yyyy"_s))
         dateFormat.replace(u"yy"_s, u"yyyy"_s);
     ui->txtReceiptDate->setDisplayFormat(dateFormat);
+    prepareProductList();
+    connectControls();
+    prepareCustomerMatching();
+}
+
+frmReceipt::~frmReceipt() = default;
+
+// The lines of a product receipt; money and quantities right-aligned.
+void frmReceipt::prepareProductList() {
     QHeaderView *header = ui->lstProducts->header();
     for (int column = 0; column < std::ssize(kProductColumnWidths); ++column)
         header->resizeSection(column, kProductColumnWidths[column]);
@@ -139,11 +95,7 @@ frmReceipt::frmReceipt(QWidget *parent)
     header->setAccessibleName(tr("Product columns"));
     for (int column : {0, 3, 4})
         ui->lstProducts->headerItem()->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
-    connectControls();
-    prepareCustomerMatching();
 }
-
-frmReceipt::~frmReceipt() = default;
 
 void frmReceipt::createToolIcons() {
     ui->ID_Print->setIcon(toolIcon(this, u"document-print"_s, QStyle::SP_DialogSaveButton));
@@ -322,13 +274,6 @@ void frmReceipt::loadStates() {
     ui->txtState->view()->setAccessibleName(tr("States and provinces"));
     ui->txtState->clear();
     ui->txtState->addItems(stateEntries());
-}
-
-// The entry of `list` whose item data is `data`; none leaves the selection.
-void frmReceipt::selectByData(QComboBox *list, int data) {
-    const int index = list->findData(data);
-    if (index >= 0)
-        list->setCurrentIndex(index);
 }
 
 // A state of the list is selected as its entry; any other stays as typed.

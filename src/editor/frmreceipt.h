@@ -7,7 +7,6 @@
 
 class CustomerMatchModel;
 class QAction;
-class QComboBox;
 class QKeyEvent;
 class QLineEdit;
 class QWidget;
@@ -51,6 +50,7 @@ protected:
 private:
     // Opening and loading (frmreceipt.cpp).
     void createToolIcons();
+    void prepareProductList();
     void connectControls();
     void applyCompanySettings();
     void setEditable(bool enabled);
@@ -63,7 +63,6 @@ private:
     void showReceipt(const Receipt &receipt);
     void setStateText(const QString &state);
     void loadProducts();
-    void selectByData(QComboBox *list, int data);
     void selectView(int index);
     void viewChanged(int index);
     void paymentTypeChanged();
