@@ -90,6 +90,9 @@ TEST_F(CustomerMatchingTest, ThePanelFollowsTheNameAndTakesAMatchByKeyboard) {
         name(screen)->setText(u"Anna 100%"_s);
         EXPECT_EQ(panel(screen), QStringList{u"Anna 100% Co"_s});
         EXPECT_EQ(account(screen), u"%1 | 1,234.50"_s.arg(obrien)) << "still picked";
+        name(screen)->clear();
+        EXPECT_EQ(panel(screen), QStringList{u"hidden"_s});
+        EXPECT_EQ(account(screen), u"%1 | 1,234.50"_s.arg(obrien)) << "an empty name keeps it";
         name(screen)->setText(u"Zed"_s);
         EXPECT_EQ(panel(screen), QStringList{u"hidden"_s});
         EXPECT_EQ(account(screen), u" | 0.00"_s);
