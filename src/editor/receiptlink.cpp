@@ -1,8 +1,9 @@
 #include "app/screenlinks.h"
+#include "editor/frmreceipt.h"
 
-// The receipt editor is not here yet: showing a receipt changes nothing.
 bool ScreenLinks::openReceipt(QWidget *parent, qint32 receiptID) {
-    Q_UNUSED(parent);
-    Q_UNUSED(receiptID);
-    return false;
+    frmReceipt screen(parent);
+    screen.receiptID = receiptID;
+    screen.exec();
+    return screen.receiptChanged;
 }

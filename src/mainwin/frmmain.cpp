@@ -10,6 +10,7 @@
 #include "app/database.h"
 #include "app/modalscreen.h"
 #include "app/runtimeformat.h"
+#include "app/screenlinks.h"
 #include "app/session.h"
 #include "app/startup.h"
 #include "mainwin/receiptlistmodel.h"
@@ -202,20 +203,16 @@ QTreeView *frmMain::selectedListView() const {
     return selectedList == 1 ? ui->lstMonth : ui->lstReceipts;
 }
 
-bool frmMain::showReceipt(qint32 receiptID) {
-    Q_UNUSED(receiptID);
-    return false;
-}
-
 // The lists are reloaded whether the receipt changed or not.
 void frmMain::openReceipt(qint32 receiptID) {
-    try {
-        showReceipt(receiptID);
-    } catch (const BriskoError &error) {
-        showError(error);
-        return;
-    }
+    ScreenLinks::openReceipt(this, receiptID);
     refreshLists();
+}
+
+// Only a receipt saved while the editor was open changes the lists.
+void frmMain::newReceipt() {
+    if (ScreenLinks::openReceipt(this, 0))
+        refreshLists();
 }
 
 qint32 frmMain::selectedReceiptID() const {

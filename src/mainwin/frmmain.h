@@ -49,10 +49,6 @@ public:
     QAction *tool(const QString &id) const;
 
 protected:
-    // Opens a stored receipt in the receipt editor, modal; true when it was
-    // shown. Nothing opens before the editor exists.
-    virtual bool showReceipt(qint32 receiptID);
-
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -102,6 +98,7 @@ private:
     void backupDatabase();
     void restoreDatabase();
     void whatsNew();
+    void newReceipt();
     // Shows a screen of type Screen modal over the window and waits for it.
     template <typename Screen> void showModal() {
         Screen screen(this);

@@ -98,6 +98,7 @@ const QList<frmMain::Tool> &frmMain::tools() {
          .themeIcon = "network-server"},
         {.id = "ID_NewReceipt",
          .caption = QT_TRANSLATE_NOOP("frmMain", "New Receipt"),
+         .command = &frmMain::newReceipt,
          .shortcut = "Ctrl+N",
          .themeIcon = "document-new",
          .fallbackIcon = ":/icons/new-receipt.png"},

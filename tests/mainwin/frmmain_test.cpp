@@ -8,6 +8,8 @@
 #include "app/runtimeformat.h"
 #include "app/schema.h"
 #include "app/session.h"
+#include "customers/payee.h"
+#include "editor/frmreceipt.h"
 #include "mainwin/frmabout.h"
 #include "mainwin/frmmain.h"
 #include "platform/manual.h"
@@ -30,22 +32,6 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// A receipt editor that only notes which receipt it was asked to show, and may
-// act while "open".
-class TestMainWindow : public frmMain {
-public:
-    QList<qint32> shownReceipts;
-    std::function<void()> whileShown;
-
-protected:
-    bool showReceipt(qint32 receiptID) override {
-        shownReceipts.append(receiptID);
-        if (whileShown)
-            whileShown();
-        return true;
-    }
-};
 
 // The texts of `row` of a list, or its headers for row -1.
 QStringList textsOf(const QTreeView *list, int row) {
@@ -108,7 +94,7 @@ class MainWindowTest : public BriskoTest {
 protected:
     void SetUp() override {
         BriskoTest::SetUp();
-        window = std::make_unique<TestMainWindow>();
+        window = std::make_unique<frmMain>();
         window->show();
     }
     void TearDown() override {
@@ -122,12 +108,19 @@ protected:
     static qint32 addReceipt(const QString &number, const char *received, const char *balance = "0",
                              qint16 type = Receipt::ProductReceipt, qint16 status = Receipt::Issued,
                              const QDateTime &date = todayAtMidnight()) {
-        const qint32 payee = addPayee(u"Ann O'Smith"_s);
-        return static_cast<qint32>(db::insertReturningKey(
-            u"INSERT INTO tblReceipt (receiptNumber, receiptDate, payeeID, amountReceived, "
-            "balanceRemaining, status, receiptType) VALUES (?, ?, ?, ?, ?, ?, ?) RETURNING receiptID"_s,
-            {number, date, payee, Currency::fromText(QString::fromLatin1(received)),
-             Currency::fromText(QString::fromLatin1(balance)), int(status), int(type)}));
+        Receipt receipt;
+        receipt.receiptNumber = number;
+        receipt.receiptDate = date;
+        Payee customer;
+        customer.payeeName = u"Ann O'Smith"_s;
+        customer.WritePayee();
+        receipt.payeeID = customer.payeeID;
+        receipt.amountReceived = Currency::fromText(QString::fromLatin1(received));
+        receipt.balanceRemaining = Currency::fromText(QString::fromLatin1(balance));
+        receipt.status = status;
+        receipt.receiptType = type;
+        receipt.writeReceipt();
+        return receipt.receiptID;
     }
 
     QTreeView *today() const { return control<QTreeView>(*window, u"lstReceipts"_s); }
@@ -143,7 +136,7 @@ protected:
         return states;
     }
 
-    std::unique_ptr<TestMainWindow> window;
+    std::unique_ptr<frmMain> window;
 };
 
 TEST_F(MainWindowTest, ListsShowTheSalesColumnsFormatsAndTags) {
@@ -197,27 +190,40 @@ TEST_F(MainWindowTest, DoubleClickAndPopupOpenTheRowsReceiptAndReloadBothLists) 
     window->refreshLists();
     EXPECT_EQ(rowsOf(today()) + rowsOf(month()), 0);
     doubleClick(today(), QPoint(20, 20));
-    EXPECT_TRUE(window->shownReceipts.isEmpty());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_FALSE(triggerPopupEntry(month(), u"mnuView"_s));
     EXPECT_EQ(enabled(popupEntries), u"0000"_s);
 
-    const qint32 first = addReceipt(u"0001"_s, "5");
+    addReceipt(u"0001"_s, "5");
     const qint32 second = addReceipt(u"0002"_s, "6");
     window->refreshLists();
-    window->whileShown = [&] { addReceipt(u"0003"_s, "7"); };
-    doubleClick(month(), month()->visualRect(month()->model()->index(1, 0)).center());
-    EXPECT_EQ(window->shownReceipts, QList<qint32>{second});
+    // The editor shows the row's receipt; closing it unchanged still reloads.
+    const auto openedWhile = [](const std::function<void()> &work) {
+        return [work](frmReceipt &editor) {
+            work();
+            const QString shown = editor.windowTitle();
+            editor.reject();
+            return shown;
+        };
+    };
+    EXPECT_EQ(driveModal<frmReceipt>(
+                  [&] {
+                      doubleClick(month(),
+                                  month()->visualRect(month()->model()->index(1, 0)).center());
+                  },
+                  openedWhile([] { addReceipt(u"0003"_s, "7"); })),
+              u"Receipt 0002"_s);
     EXPECT_EQ(rowsOf(today()) + rowsOf(month()), 6);
 
     // View opens the selected row of the list the popup came from.
     selectRow(month(), 1);
     selectRow(today(), 0);
-    window->whileShown = [&] {
-        db::execute(u"DELETE FROM tblReceipt WHERE receiptID = ?"_s, {second});
-    };
-    EXPECT_TRUE(triggerPopupEntry(today(), u"mnuView"_s));
+    EXPECT_EQ(driveModal<frmReceipt>(
+                  [&] { EXPECT_TRUE(triggerPopupEntry(today(), u"mnuView"_s)); }, openedWhile([&] {
+                      db::execute(u"DELETE FROM tblReceipt WHERE receiptID = ?"_s, {second});
+                  })),
+              u"Receipt 0001"_s);
     EXPECT_EQ(enabled(popupEntries), u"1111"_s);
-    EXPECT_EQ(window->shownReceipts, (QList<qint32>{second, first}));
     EXPECT_EQ(rowsOf(today()) + rowsOf(month()), 4);
     EXPECT_TRUE(boxes().shown.isEmpty());
 
@@ -228,6 +234,28 @@ TEST_F(MainWindowTest, DoubleClickAndPopupOpenTheRowsReceiptAndReloadBothLists) 
                           u"configured.  Please go to Options and click the Email tab to set up "
                           u"your outbound email | Exclamation"_s));
     EXPECT_TRUE(process().opened.isEmpty());
+}
+
+// "New Receipt" opens an empty editor; only a receipt saved there reloads the lists.
+TEST_F(MainWindowTest, NewReceiptOpensTheEditorAndReloadsOnlyAfterASave) {
+    window->refreshLists();
+    QAction *newReceipt = window->tool(u"ID_NewReceipt"_s);
+    EXPECT_EQ(newReceipt->shortcut(), QKeySequence(u"Ctrl+N"_s));
+    EXPECT_EQ(window->findChild<QToolBar *>(u"ToolBar1"_s)->actions().value(0), newReceipt);
+
+    const auto openNew = [&](bool saved) {
+        return driveModal<frmReceipt>([&] { newReceipt->trigger(); },
+                                      [&](frmReceipt &editor) {
+                                          addReceipt(u"N-1"_s, "3");
+                                          editor.receiptChanged = saved;
+                                          editor.reject();
+                                          return std::pair(editor.receiptID, editor.windowTitle());
+                                      });
+    };
+    EXPECT_EQ(openNew(false), std::pair(0, u"New Receipt"_s));
+    EXPECT_EQ(rowsOf(today()), 0) << "nothing was saved";
+    openNew(true);
+    EXPECT_EQ(rowsOf(today()), 2);
 }
 
 TEST_F(MainWindowTest, RightsOfTheAnonymousAndTheLoggedInUserSwitchTheTools) {
@@ -279,7 +307,8 @@ TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
     EXPECT_EQ(entriesOf(window->tool(u"ID_Tools"_s)->menu()),
               (QStringList{u"Customers"_s, u"-"_s, u"Maintenance"_s}));
     EXPECT_EQ(entriesOf(window->findChild<QToolBar *>(u"ToolBar1"_s)),
-              (QStringList{u"Inventory"_s, u"-"_s, u"Customers"_s, u"-"_s, u"&Reports"_s}));
+              (QStringList{u"New Receipt"_s, u"-"_s, u"Inventory"_s, u"-"_s, u"Customers"_s, u"-"_s,
+                           u"&Reports"_s}));
     EXPECT_EQ(entriesOf(window->tool(u"ID_Reports"_s)->menu()),
               (QStringList{u"Receipt Ledger"_s, u"-"_s, u"Service Ledger"_s, u"Inventory Sold"_s,
                            u"Inventory Sold Detail"_s, u"Service Breakdown Report"_s}));
@@ -343,7 +372,7 @@ TEST_F(MainWindowTest, OpenDatabaseIsRefusedFailsSilentlyOrSwitchesFiles) {
     window->load();
     session().useSharedFile = true;
     window->toolClick(u"ID_OpenDatabase"_s);
-    EXPECT_EQ(TestMainWindow().findChild<QLabel *>(u"pnlDatabase"_s)->text(),
+    EXPECT_EQ(frmMain().findChild<QLabel *>(u"pnlDatabase"_s)->text(),
               u"[SHARED] "_s + databasePath());
     session().useSharedFile = false;
     window->DoOpenDatabase();
