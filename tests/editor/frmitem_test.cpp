@@ -241,3 +241,24 @@ TEST_F(LineItemTest, NewItemOpensTheInventoryAndReloadsTheSkus) {
         click(screen, u"cmdCancel"_s);
     });
 }
+
+TEST_F(LineItemTest, EachFailureShowsItsOwnBox) {
+    db::execute(u"ALTER TABLE tblProduct RENAME TO tblProductGone"_s);
+    editLine(Product(), [&](frmItem &screen) {
+        type(screen, u"txtSKU"_s, u"B-2"_s);
+        leave(screen, u"txtSKU"_s);
+        driveModal<frmLookup>([&] { click(screen, u"cmdLookup"_s); },
+                              [&](frmLookup &lookup) {
+                                  click(lookup, u"cmdSearch"_s);
+                                  lookup.reject();
+                              });
+        click(screen, u"cmdCancel"_s);
+    });
+    EXPECT_EQ(boxes().lines(),
+              (QStringList{u"Error | frmItem.loadProducts:  Product.getProducts:  no such table: "
+                           "tblProduct | Critical"_s,
+                           u"Error | An error has occured: Product.getProductBySKU:  no such "
+                           "table: tblProduct | Critical"_s,
+                           u"Error | An error has occured: Product.productSearch:  no such table: "
+                           "tblProduct | Critical"_s}));
+}
