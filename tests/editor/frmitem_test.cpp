@@ -69,6 +69,14 @@ TEST_F(LineItemTest, ANewLineTakesTheCataloguesValuesAndMayChangeThemForThisSale
         EXPECT_EQ(text(screen, u"txtSKU"_s), u""_s);
         EXPECT_FALSE(control<QWidget>(screen, u"cmdOK"_s)->isEnabled());
 
+        skus->showPopup();
+        QTest::keyClick(skus->view(), Qt::Key_Down);
+        QTest::keyClick(skus->view(), Qt::Key_Return);
+        EXPECT_EQ(text(screen, u"txtSKU"_s), u"L-1"_s);
+        EXPECT_EQ(text(screen, u"lblProductName"_s), u"Lamp"_s) << "a pick in the list looks up";
+        EXPECT_EQ(text(screen, u"txtPrice"_s), u"12.50"_s);
+        EXPECT_TRUE(hasFocus(screen, u"txtQty"_s));
+
         type(screen, u"txtSKU"_s, u"nothing"_s);
         leave(screen, u"txtSKU"_s);
         EXPECT_EQ(text(screen, u"lblProductName"_s), u"Item ID Not Found"_s);
