@@ -231,6 +231,7 @@ TEST_F(LineItemTest, TheLookupFindsAndPicksAProduct) {
     });
     ASSERT_TRUE(line);
     EXPECT_EQ(line->productSKU, u"LB-9"_s);
+    EXPECT_EQ(boxes().titles(), QStringList{u"Search Results"_s}) << "a picked SKU is known";
     EXPECT_EQ(line->qty, 5);
     EXPECT_EQ(line->cost.toString(), u"1.5"_s);
 }
