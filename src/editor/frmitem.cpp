@@ -11,6 +11,7 @@
 #include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -45,7 +46,6 @@ frmItem::frmItem(QWidget *parent)
     const QString skuName = ui->lblSKU->text().remove(u'&');
     ui->txtSKU->lineEdit()->setAccessibleName(skuName);
     ui->txtSKU->view()->setAccessibleName(skuName);
-    Utility::selectAllOnFocus(ui->txtSKU->lineEdit());
     connect(ui->txtSKU, &QComboBox::editTextChanged, this, &frmItem::skuChanged);
     connect(ui->txtSKU, &QComboBox::activated, this, &frmItem::skuPicked);
     ui->txtSKU->installEventFilter(this);
@@ -65,11 +65,19 @@ void frmItem::load() {
     ui->txtSKU->setFocus();
 }
 
-// Leaving txtSKU looks its text up, unless a pick in its list just did.
+// Entering txtSKU selects its text; leaving it looks the text up, unless a
+// pick in its list just did. The box holds the focus for its text field, so
+// the box is watched, not the field.
 bool frmItem::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == ui->txtSKU && event->type() == QEvent::FocusOut &&
-        static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason) {
-        skuLeft();
+    const bool popup = (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) &&
+                       static_cast<QFocusEvent *>(event)->reason() == Qt::PopupFocusReason;
+    if (watched == ui->txtSKU && !popup) {
+        if (event->type() == QEvent::FocusIn) {
+            QLineEdit *text = ui->txtSKU->lineEdit();
+            QTimer::singleShot(0, text, [text] { Utility::selectAllText(text); });
+        } else if (event->type() == QEvent::FocusOut) {
+            skuLeft();
+        }
     }
     return ModalScreen::eventFilter(watched, event);
 }

@@ -122,6 +122,13 @@ TEST_F(LineItemTest, AnEditedLineShowsItsValuesAndCancelKeepsThem) {
                                text(screen, u"txtExtDesc"_s)}),
                   (QStringList{u"4"_s, u"B-2"_s, u"Bolt, special"_s, u"1.2"_s, u""_s}));
         EXPECT_TRUE(control<QWidget>(screen, u"cmdOK"_s)->isEnabled());
+        auto *sku = control<QComboBox>(screen, u"txtSKU"_s);
+        EXPECT_EQ(sku->lineEdit()->selectedText(), u"B-2"_s);
+        sku->lineEdit()->deselect();
+        control<QWidget>(screen, u"txtDesc"_s)->setFocus();
+        QTest::mouseClick(sku->lineEdit(), Qt::LeftButton, {}, QPoint(4, 4));
+        QCoreApplication::processEvents();
+        EXPECT_EQ(sku->lineEdit()->selectedText(), u"B-2"_s) << "also when entered by the mouse";
         leave(screen, u"txtSKU"_s);
         EXPECT_EQ(text(screen, u"txtPrice"_s), u"1.50"_s) << "leaving the SKU looks it up again";
         EXPECT_EQ(text(screen, u"txtDesc"_s), u"Bolt each"_s);
