@@ -102,6 +102,7 @@ private:
     void backupDatabase();
     void restoreDatabase();
     void whatsNew();
+    void showJournal();
     // Shows a screen of type Screen modal over the window and waits for it.
     template <typename Screen> void showModal() {
         Screen screen(this);

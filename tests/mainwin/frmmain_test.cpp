@@ -277,9 +277,10 @@ TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
     EXPECT_EQ(entriesOf(window->findChild<QMenuBar *>(u"ToolBar2"_s)),
               (QStringList{u"&File"_s, u"&Tools"_s, u"&Help"_s}));
     EXPECT_EQ(entriesOf(window->tool(u"ID_Tools"_s)->menu()),
-              (QStringList{u"Customers"_s, u"-"_s, u"Maintenance"_s}));
+              (QStringList{u"Update Receipt Status"_s, u"Receipt Journal"_s, u"-"_s, u"Customers"_s,
+                           u"-"_s, u"Maintenance"_s}));
     EXPECT_EQ(entriesOf(window->findChild<QToolBar *>(u"ToolBar1"_s)),
-              (QStringList{u"Inventory"_s, u"-"_s, u"Customers"_s}));
+              (QStringList{u"Receipt Journal"_s, u"Inventory"_s, u"-"_s, u"Customers"_s}));
     EXPECT_EQ(
         entriesOf(window->tool(u"ID_File"_s)->menu()) +
             entriesOf(window->tool(u"ID_Maintenance"_s)->menu()) +
