@@ -100,15 +100,18 @@ void frmJournal::createPopupMenu() {
     connect(mnuEdit, &QAction::triggered, this, &frmJournal::viewSelected);
 }
 
-// The view asks for the rows it shows; with fixed row heights and column
-// widths nothing reads ahead of it.
+// The view asks for the rows it shows. A table rather than a tree, with
+// fixed row heights and column widths, so that a list of a million rows
+// grows by a page without laying out the rows it already holds.
 void frmJournal::prepareList() {
-    QTreeView *list = ui->lstReceipts;
+    QTableView *list = ui->lstReceipts;
     list->setModel(m_receipts);
     for (int column = 0; column < std::ssize(kColumnWidths); ++column)
         list->setColumnWidth(column, kColumnWidths[column]);
-    list->header()->setStretchLastSection(true);
-    list->header()->setAccessibleName(tr("Receipt columns"));
+    list->horizontalHeader()->setAccessibleName(tr("Receipt columns"));
+    list->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    list->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     m_receipts->onFetchFailure = [](const BriskoError &error) {
         showFailure(tr("frmJournal.getReceipts:  "), error);
     };

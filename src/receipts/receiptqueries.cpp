@@ -3,6 +3,8 @@
 #include "app/runtimeformat.h"
 #include "platform/briskoerror.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -106,7 +108,13 @@ void Receipt::GetReceiptsPage(const GetReceiptsArgs &args, const ListEntry *afte
                               QList<ListEntry> &page) {
     Q_ASSERT(args.sortOrder == 0);
     reraiseWithPrefix(u"Receipt.getReceipts:  "_s, [&] {
-        Conditions where = listConditions(*this, args);
+        // The page starts on the last row's day at the earliest, so that
+        // the index seeks straight to it rather than from the start date.
+        GetReceiptsArgs bounded = args;
+        if (after && !args.startDate.isEmpty())
+            bounded.startDate =
+                Runtime::shortDate(std::max(listDate(args.startDate), after->receiptDate.date()));
+        Conditions where = listConditions(*this, bounded);
         if (after) {
             where.add(u"(R.receiptDate, R.receiptNumber, R.receiptID) > (?, ?, ?) "_s,
                       after->receiptDate);

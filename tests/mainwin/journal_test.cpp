@@ -24,6 +24,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableView>
 #include <QTest>
 #include <QTreeView>
 
@@ -100,8 +101,8 @@ protected:
                                });
     }
 
-    static QTreeView *hits(const frmJournal &journal) {
-        return control<QTreeView>(journal, u"lstReceipts"_s);
+    static QTableView *hits(const frmJournal &journal) {
+        return control<QTableView>(journal, u"lstReceipts"_s);
     }
     static QStringList column(const frmJournal &journal, int column) {
         QStringList texts;
@@ -260,7 +261,7 @@ TEST_F(JournalTest, PopupCommandsActOnTheSelectedReceipt) {
                 "VALUES (?, 1, 1)"_s,
                 {first});
     onJournal([&](frmJournal &journal) {
-        QTreeView *list = hits(journal);
+        QTableView *list = hits(journal);
         for (const QString &entry : {u"mnuPrint"_s, u"mnuStatus"_s, u"mnuDelete"_s, u"mnuEdit"_s})
             EXPECT_FALSE(triggerPopupEntry(list, entry)) << "nothing listed";
         search(journal);
@@ -313,7 +314,7 @@ TEST_F(JournalTest, RightsDecideDeleteAndStatus) {
     user->canVoid = 0;
     session().currentUser = user;
     onJournal([this](frmJournal &journal) {
-        QTreeView *list = hits(journal);
+        QTableView *list = hits(journal);
         QTest::keyClick(list, Qt::Key_Delete);
         EXPECT_TRUE(boxes().shown.isEmpty()) << "an empty list takes no key";
         search(journal);
@@ -342,7 +343,7 @@ TEST_F(JournalTest, TheListReadsOnAsTheViewScrolls) {
     }
     onJournal([](frmJournal &journal) {
         search(journal);
-        QTreeView *list = hits(journal);
+        QTableView *list = hits(journal);
         QAbstractItemModel *model = list->model();
         EXPECT_LT(model->rowCount(), 700);
         while (model->canFetchMore({}))
