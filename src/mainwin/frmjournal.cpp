@@ -17,6 +17,7 @@
 
 #include <QHeaderView>
 #include <QIcon>
+#include <QLocale>
 #include <QMenu>
 #include <QShortcut>
 #include <QStyle>
@@ -48,8 +49,6 @@ frmJournal::frmJournal(QWidget *parent)
 
     connect(ui->chkAllDates, &QCheckBox::toggled, this, &frmJournal::applyAllDates);
     connect(ui->cmdSearch, &QPushButton::clicked, this, [this] { getReceipts(false); });
-    connect(ui->txtName, &QLineEdit::returnPressed, this, [this] { getReceipts(false); });
-    connect(ui->txtReceipt, &QLineEdit::returnPressed, this, [this] { getReceipts(false); });
     connect(ui->cmdCustom, &QPushButton::clicked, this, &frmJournal::searchCustomFields);
     connect(ui->cmdClear, &QPushButton::clicked, this, &frmJournal::clearCustomFields);
 }
@@ -124,6 +123,12 @@ void frmJournal::prepareList() {
 
 // All dates are checked and nothing is searched: the first search covers all.
 void frmJournal::load() {
+    // The pickers show the year whole, as every date of the program does.
+    QString dateFormat = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!dateFormat.contains(u"yyyy"_s))
+        dateFormat.replace(u"yy"_s, u"yyyy"_s);
+    ui->txtStartDate->setDisplayFormat(dateFormat);
+    ui->txtEndDate->setDisplayFormat(dateFormat);
     const QDate today = QDate::currentDate();
     ui->txtStartDate->setDate(today);
     ui->txtEndDate->setDate(today);

@@ -331,6 +331,22 @@ TEST_F(JournalTest, RightsDecideDeleteAndStatus) {
                           "delete a receipt.  Please see your system administrator. | Critical"_s});
 }
 
+// A receipt whose customer is gone ends the list at its row with the box.
+TEST_F(JournalTest, AReceiptWithoutItsCustomerEndsTheList) {
+    addReceipt(u"26-001"_s, QDate(2026, 3, 1), obrien);
+    addReceipt(u"26-002"_s, QDate(2026, 3, 2), cotton);
+    addReceipt(u"26-003"_s, QDate(2026, 3, 3), obrien);
+    db::execute(u"DELETE FROM tblPayee WHERE payeeID = ?"_s, {cotton});
+    onJournal([](frmJournal &journal) {
+        search(journal);
+        EXPECT_EQ(numbers(journal), QStringList{u"26-001"_s});
+        EXPECT_TRUE(tool(journal, u"ID_Print"_s)->isEnabled());
+    });
+    EXPECT_EQ(boxes().lines(),
+              QStringList{u"Error | frmJournal.getReceipts:  Receipt.getReceipts:  "
+                          "Invalid use of Null | Critical"_s});
+}
+
 // Pages follow each other in date and number order, the key settling ties,
 // however many rows share a date or a number.
 TEST_F(JournalTest, TheListReadsOnAsTheViewScrolls) {
