@@ -189,12 +189,10 @@ void frmCustProp::applyRights() {
     m_delete->setEnabled(rights.canDelete);
     m_reassign->setEnabled(rights.canEdit);
     ui->lblLocked->setVisible(!rights.canEdit);
-    for (QWidget *field :
-         {static_cast<QWidget *>(ui->txtName), static_cast<QWidget *>(ui->txtAddress),
-          static_cast<QWidget *>(ui->txtAddress2), static_cast<QWidget *>(ui->txtCity),
-          static_cast<QWidget *>(ui->lstState), static_cast<QWidget *>(ui->txtZip),
-          static_cast<QWidget *>(ui->txtPhone), static_cast<QWidget *>(ui->email),
-          static_cast<QWidget *>(ui->startingBalance)})
+    const std::initializer_list<QWidget *> fields = {
+        ui->txtName, ui->txtAddress, ui->txtAddress2, ui->txtCity,        ui->lstState,
+        ui->txtZip,  ui->txtPhone,   ui->email,       ui->startingBalance};
+    for (QWidget *field : fields)
         field->setEnabled(rights.canEdit);
 }
 

@@ -141,9 +141,9 @@ void frmJournal::load() {
 
 void frmJournal::applyAllDates() {
     const bool pickers = !ui->chkAllDates->isChecked();
-    for (QWidget *control :
-         {static_cast<QWidget *>(ui->Label1), static_cast<QWidget *>(ui->Label2),
-          static_cast<QWidget *>(ui->txtStartDate), static_cast<QWidget *>(ui->txtEndDate)})
+    const std::initializer_list<QWidget *> dates = {ui->Label1, ui->Label2, ui->txtStartDate,
+                                                    ui->txtEndDate};
+    for (QWidget *control : dates)
         control->setEnabled(pickers);
 }
 
