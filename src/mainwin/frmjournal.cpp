@@ -148,8 +148,9 @@ void frmJournal::applyAllDates() {
 }
 
 void frmJournal::getReceipts(bool useCustomFields) {
-    runCommand(tr("frmJournal.getReceipts:  "), [&] { findReceipts(useCustomFields); });
-    showSearchOutcome();
+    // A failed search leaves the rows it read and the tools as they were.
+    if (runCommand(tr("frmJournal.getReceipts:  "), [&] { findReceipts(useCustomFields); }))
+        showSearchOutcome();
 }
 
 // Name and number go in as typed: an apostrophe, '%' or '_' simply searches.
