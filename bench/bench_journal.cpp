@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QPushButton>
 #include <QTableView>
 #include <algorithm>
@@ -34,6 +35,18 @@ const QString kAfter = u"AND (R.receiptDate, R.receiptNumber, R.receiptID) > (?,
 
 const QString kFirstDay = db::dateText(QDate(1900, 1, 1));
 const QString kLastDay = db::dateText(QDate(2200, 1, 1));
+
+// The process's peak resident memory as the kernel tells it.
+QString peakMemory() {
+    QFile status(u"/proc/self/status"_s);
+    if (!status.open(QIODevice::ReadOnly))
+        return u"unknown"_s;
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:"))
+            return QString::fromLatin1(line.mid(6).trimmed());
+    }
+    return u"unknown"_s;
+}
 
 struct Screen {
     frmJournal journal;
@@ -86,6 +99,7 @@ void scrollToTheEnd(Screen &screen, const benchshop::Shop &shop) {
     }
     const double wholeScroll = double(whole.nsecsElapsed()) / 1000;
     std::sort(pauses.begin(), pauses.end());
+    const QString memory = peakMemory(); // before the raw side reads every row
 
     // The raw side: one page deep in the list, and the whole list read at once.
     bench::RawStatement rawPage(shop.path, kPage.arg(kAfter));
@@ -109,7 +123,8 @@ void scrollToTheEnd(Screen &screen, const benchshop::Shop &shop) {
         },
         3);
 
-    std::printf("(%d rows in %zu steps)\n", model->rowCount(), pauses.size() + 1);
+    std::printf("(%d rows in %zu steps, peak memory %s)\n", model->rowCount(), pauses.size() + 1,
+                qPrintable(memory));
     bench::printCase("journal, scrolling: median pause", pauses[pauses.size() / 2], rawPageTime);
     bench::printCase("journal, scrolling: longest pause", pauses.back(), rawPageTime);
     bench::printCase("journal, scrolling: whole list to its end", wholeScroll, rawAllTime);
