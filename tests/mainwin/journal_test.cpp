@@ -444,8 +444,10 @@ TEST_F(JournalTest, ReprintTakesTheLastReceiptOrTheOneNamed) {
     reprint([](frmReprint &dialog) {
         control<QCheckBox>(dialog, u"chkDisplay"_s)->setChecked(true);
         click(dialog, u"cmdPrint"_s);
-        control<QRadioButton>(dialog, u"receiptOption1"_s)->click();
+        // A click on the locked number box chooses a specific receipt.
         auto *number = control<QLineEdit>(dialog, u"txtReceiptNumber"_s);
+        QTest::mouseClick(number, Qt::LeftButton);
+        EXPECT_TRUE(control<QRadioButton>(dialog, u"receiptOption1"_s)->isChecked());
         EXPECT_TRUE(number->isEnabled());
         number->setText(u"26-002"_s);
         click(dialog, u"cmdPrint"_s);
