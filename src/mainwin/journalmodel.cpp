@@ -30,6 +30,7 @@ void JournalModel::search(const Receipt &terms, const Receipt::GetReceiptsArgs &
 void JournalModel::clear() {
     beginResetModel();
     m_rows.clear();
+    m_texts.clear();
     m_after.reset();
     m_complete = true;
     endResetModel();
@@ -78,16 +79,22 @@ void JournalModel::append(QList<Receipt::ListEntry> &page) {
         return;
     m_after = page.constLast();
     for (Receipt::ListEntry &entry : page) {
-        const qsizetype known = m_statusNames.indexOf(entry.statusName);
-        if (known < 0)
-            m_statusNames.append(entry.statusName);
-        else
-            entry.statusName = m_statusNames.at(known);
+        entry.payeeName = sharedText(entry.payeeName);
+        entry.statusName = sharedText(entry.statusName);
     }
     const int first = int(m_rows.size());
     beginInsertRows({}, first, first + int(page.size()) - 1);
     m_rows.append(std::move(page));
     endInsertRows();
+}
+
+// A customer's name or a status repeats on many rows; the rows share one
+// copy of it, which keeps a list scrolled through years small.
+QString JournalModel::sharedText(const QString &text) {
+    auto known = m_texts.constFind(text);
+    if (known == m_texts.constEnd())
+        known = m_texts.insert(text);
+    return *known;
 }
 
 int JournalModel::rowCount(const QModelIndex &parent) const {

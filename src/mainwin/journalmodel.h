@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QList>
+#include <QSet>
 #include <functional>
 #include <optional>
 
@@ -46,12 +47,13 @@ public:
 private:
     void readPage();
     void append(QList<Receipt::ListEntry> &page);
+    QString sharedText(const QString &text);
     QString text(const Receipt::ListEntry &entry, int column) const;
 
     Receipt m_terms;
     Receipt::GetReceiptsArgs m_args;
     QList<Receipt::ListEntry> m_rows;
     std::optional<Receipt::ListEntry> m_after; // the last row read; the next page follows it
-    QStringList m_statusNames;                 // one copy of each status text, shared by the rows
+    QSet<QString> m_texts; // one copy of each name and status, shared by the rows
     bool m_complete = true;
 };
