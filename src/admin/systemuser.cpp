@@ -1,5 +1,6 @@
 #include "admin/systemuser.h"
 
+#include "app/session.h"
 #include "platform/briskoerror.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -77,4 +78,14 @@ void SystemUser::updateUser() {
     params.append({int(canEdit), int(canDelete), int(canVoid), int(status), int(isAdmin),
                    int(canRunReports), userID});
     db::execute(sql, params);
+}
+
+UserRights currentUserRights() {
+    const SystemUser *user = session().currentUser.get();
+    if (!user)
+        return {};
+    return {.canEdit = user->canEdit == 1,
+            .canDelete = user->canDelete == 1,
+            .canVoid = user->canVoid == 1,
+            .isAdmin = user->isAdmin == 1};
 }

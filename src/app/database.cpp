@@ -302,6 +302,14 @@ qint32 Cells::int32(int column) const {
     return required(column).toInt();
 }
 
+Currency Cells::currency(int column) const {
+    return Currency::fromUnits(required(column).toLongLong());
+}
+
+QDateTime Cells::dateTime(int column) const {
+    return QDateTime::fromString(required(column).toString(), QString::fromLatin1(kDateFormat));
+}
+
 void forEachRow(const QString &sql, const Params &params,
                 const std::function<void(const Cells &)> &visit) {
     withConnection([&](Connection &connection) {

@@ -151,6 +151,8 @@ public:
     bool isNull(int column) const;
     QString text(int column) const;
     qint32 int32(int column) const;
+    Currency currency(int column) const;
+    QDateTime dateTime(int column) const;
 
 private:
     QVariant required(int column) const;

@@ -69,7 +69,9 @@ constexpr const char *kIndexes[] = {
     "CREATE INDEX IF NOT EXISTS idxReceiptPayee ON tblReceipt (payeeID, receiptType, status, "
     "amountDue, "
     "amountTax, amountOther, amountDiscount, amountReceived)",
-    "CREATE INDEX IF NOT EXISTS idxReceiptDate ON tblReceipt (receiptDate)",
+    // The receipt lists read a range of dates in date and number order; the
+    // journal pages through it by that order and the key.
+    "CREATE INDEX IF NOT EXISTS idxReceiptDateNumber ON tblReceipt (receiptDate, receiptNumber)",
     "CREATE INDEX IF NOT EXISTS idxReceiptNumber ON tblReceipt (receiptNumber)",
     "CREATE INDEX IF NOT EXISTS idxReceiptProductReceipt ON tblReceipt_Product (receiptID)",
     "CREATE INDEX IF NOT EXISTS idxProductSKU ON tblProduct (productSKU)",

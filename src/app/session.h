@@ -24,6 +24,17 @@ struct Session {
 
 Session &session();
 
+// The rights of the session's user as the screens test them: each one that
+// is exactly 1. Without a user nothing is granted. Defined beside SystemUser,
+// so that screens below the administration read rights without its class.
+struct UserRights {
+    bool canEdit = false;
+    bool canDelete = false;
+    bool canVoid = false;
+    bool isAdmin = false;
+};
+UserRights currentUserRights();
+
 // Back to the state of a fresh process.
 void resetSession();
 

@@ -3,6 +3,7 @@
 
 #include "app/database.h"
 #include "customers/customerlistmodel.h"
+#include "customers/frmcustprop.h"
 #include "platform/dialogs.h"
 
 #include <QHeaderView>
@@ -159,11 +160,8 @@ void frmCustomerList::openCustomer(const QModelIndex &index) {
     }
     // Afterwards the search runs again, so that the list shows what the
     // sheet changed or deleted.
-    if (showCustomerSheet(payeeID))
-        runSearch();
-}
-
-bool frmCustomerList::showCustomerSheet(qint32 payeeID) {
-    Q_UNUSED(payeeID);
-    return false;
+    frmCustProp sheet(this);
+    sheet.payeeID = payeeID;
+    sheet.exec();
+    runSearch();
 }

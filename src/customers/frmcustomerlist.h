@@ -26,9 +26,6 @@ public:
 
 protected:
     void load() override;
-    // Shows the customer sheet of `payeeID`, modal; true when it was shown.
-    // Nothing opens before the sheet exists.
-    virtual bool showCustomerSheet(qint32 payeeID);
 
 private:
     // How the name is matched; All lists every customer.

@@ -99,6 +99,7 @@ private:
     void restoreDatabase();
     void whatsNew();
     void newReceipt();
+    void showJournal();
     // Shows a screen of type Screen modal over the window and waits for it.
     template <typename Screen> void showModal() {
         Screen screen(this);

@@ -20,6 +20,9 @@
 #include "catalogue/frmservice.h"
 #include "customers/frmcustomerlist.h"
 #include "mainwin/frmabout.h"
+#include "mainwin/frmjournal.h"
+#include "mainwin/frmreprint.h"
+#include "mainwin/frmvoid.h"
 #include "output/frmreports.h"
 #include "output/modreports.h"
 #include "platform/briskoerror.h"
@@ -104,6 +107,7 @@ const QList<frmMain::Tool> &frmMain::tools() {
          .fallbackIcon = ":/icons/new-receipt.png"},
         {.id = "ID_ReceiptJournal",
          .caption = QT_TRANSLATE_NOOP("frmMain", "Receipt Journal"),
+         .command = &frmMain::showJournal,
          .themeIcon = "x-office-address-book",
          .fallbackIcon = ":/icons/journal.png"},
         {.id = "ID_CustomerSearch",
@@ -112,9 +116,13 @@ const QList<frmMain::Tool> &frmMain::tools() {
          .themeIcon = "system-users",
          .fallbackIcon = ":/icons/customers.png"},
         // Opened from other screens by its id; no menu carries it.
-        {.id = "ID_ReprintReceipt", .caption = QT_TRANSLATE_NOOP("frmMain", "Reprint Receipt")},
+        {.id = "ID_ReprintReceipt",
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Reprint Receipt"),
+         .command = &frmMain::showModal<frmReprint>},
+        // A changed status shows in the lists only after their next refresh.
         {.id = "ID_UpdateReceiptStatus",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Update Receipt Status")},
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Update Receipt Status"),
+         .command = &frmMain::showModal<frmVoid>},
         {.id = "ID_Options",
          .caption = QT_TRANSLATE_NOOP("frmMain", "Options"),
          .themeIcon = "preferences-system"},
@@ -332,4 +340,10 @@ void frmMain::applyVoidAndAdminRights() {
     const SystemUser &user = *session().currentUser;
     tool(u"ID_UpdateReceiptStatus"_s)->setEnabled(user.canVoid != 0);
     tool(u"ID_Maintenance"_s)->setEnabled(user.isAdmin != 0);
+}
+
+// What the journal changed or deleted shows in the lists at once.
+void frmMain::showJournal() {
+    showModal<frmJournal>();
+    refreshLists();
 }

@@ -101,6 +101,25 @@ public:
                              qint16 maxRows, const QString &payeeName, const QString &receiptNumber,
                              bool useCustomFields, bool includeOpening);
     db::Snapshot GetReceipts(const GetReceiptsArgs &args);
+
+    // One receipt as a long receipt list shows it.
+    struct ListEntry {
+        qint32 receiptID = 0;
+        QDateTime receiptDate;
+        QString receiptNumber;
+        QString payeeName;
+        Currency amountReceived;
+        Currency balanceRemaining;
+        QString statusName;
+    };
+    // The list of GetReceipts(args) a page at a time, in date and number
+    // order with the key settling ties: appends to `page` up to `count` rows
+    // that follow `after` (from the top when it is null). Each page is a
+    // statement of its own, so that no read lock outlives it. A row that
+    // cannot be read ends the page there, the rows before it staying, and
+    // its error goes on. Only the date and number order pages.
+    void GetReceiptsPage(const GetReceiptsArgs &args, const ListEntry *after, int count,
+                         QList<ListEntry> &page);
     db::Snapshot GetCustomerReceipts(qint32 payeeID);
     db::Snapshot getReceiptProducts(qint32 receiptID);
     qint32 GetReceiptCount();

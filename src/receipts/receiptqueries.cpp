@@ -3,6 +3,8 @@
 #include "app/runtimeformat.h"
 #include "platform/briskoerror.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -23,6 +25,9 @@ public:
         m_any = true;
     }
 
+    // Values of further "?" in the condition added last.
+    void appendParams(const db::Params &values) { m_params.append(values); }
+
     const QString &sql() const { return m_sql; }
     const db::Params &params() const { return m_params; }
 
@@ -41,17 +46,32 @@ QDate listDate(const QString &shortDate) {
     return day;
 }
 
-QString containing(const QString &term) {
-    return u"%"_s + term + u"%"_s;
-}
-
 void addCustomFieldTerms(Conditions &where, const Receipt &terms) {
     const QString *fields[] = {&terms.customField1, &terms.customField2, &terms.customField3,
                                &terms.customField4, &terms.customField5, &terms.customField6};
     for (int index = 0; index < 6; ++index) {
         if (!fields[index]->isEmpty())
-            where.add(u"R.customField%1 LIKE ? "_s.arg(index + 1), containing(*fields[index]));
+            where.add(uR"(R.customField%1 LIKE ? ESCAPE '\' )"_s.arg(index + 1),
+                      db::containingPattern(*fields[index]));
     }
+}
+
+// The filters of a receipt list; a typed '%' or '_' matches itself.
+Conditions listConditions(const Receipt &terms, const Receipt::GetReceiptsArgs &args) {
+    Conditions where;
+    if (!args.startDate.isEmpty())
+        where.add(u"R.receiptDate >= ? "_s, listDate(args.startDate));
+    if (!args.endDate.isEmpty())
+        where.add(u"R.receiptDate <= ? "_s, listDate(args.endDate));
+    if (!args.payeeName.isEmpty())
+        where.add(uR"(P.payeeName LIKE ? ESCAPE '\' )"_s, db::containingPattern(args.payeeName));
+    if (!args.receiptNumber.isEmpty())
+        where.add(u"R.receiptNumber = ? "_s, args.receiptNumber);
+    if (args.useCustomFields)
+        addCustomFieldTerms(where, terms);
+    if (!args.includeOpening)
+        where.add(u"R.receiptType <> ? "_s, int(Receipt::OpeningBalance));
+    return where;
 }
 
 } // namespace
@@ -62,36 +82,57 @@ db::Snapshot Receipt::GetReceipts(const QString &startDate, const QString &endDa
                                   qint16 sortOrder, qint16 maxRows, const QString &payeeName,
                                   const QString &receiptNumber, bool useCustomFields,
                                   bool includeOpening) {
-    return reraiseWithPrefix(u"Receipt.getReceipts:  "_s, [&] {
-        Conditions where;
-        if (!startDate.isEmpty())
-            where.add(u"R.receiptDate >= ? "_s, listDate(startDate));
-        if (!endDate.isEmpty())
-            where.add(u"R.receiptDate <= ? "_s, listDate(endDate));
-        if (!payeeName.isEmpty())
-            where.add(u"P.payeeName LIKE ? "_s, containing(payeeName));
-        if (!receiptNumber.isEmpty())
-            where.add(u"R.receiptNumber = ? "_s, receiptNumber);
-        if (useCustomFields)
-            addCustomFieldTerms(where, *this);
-        if (!includeOpening)
-            where.add(u"R.receiptType <> ? "_s, int(OpeningBalance));
+    return GetReceipts({startDate, endDate, sortOrder, maxRows, payeeName, receiptNumber,
+                        useCustomFields, includeOpening});
+}
 
+db::Snapshot Receipt::GetReceipts(const GetReceiptsArgs &args) {
+    return reraiseWithPrefix(u"Receipt.getReceipts:  "_s, [&] {
+        const Conditions where = listConditions(*this, args);
         QString sql = u"SELECT "_s + kReceiptListColumns + u"WHERE "_s + where.sql();
-        sql += sortOrder == 1 ? u"ORDER BY R.receiptNumber DESC"_s
-                              : u"ORDER BY R.receiptDate, R.receiptNumber"_s;
+        sql += args.sortOrder == 1 ? u"ORDER BY R.receiptNumber DESC"_s
+                                   : u"ORDER BY R.receiptDate, R.receiptNumber"_s;
         db::Params params = where.params();
-        if (maxRows > 0) {
+        if (args.maxRows > 0) {
             sql += u" LIMIT ?"_s;
-            params.append(int(maxRows));
+            params.append(int(args.maxRows));
         }
         return db::select(sql, params);
     });
 }
 
-db::Snapshot Receipt::GetReceipts(const GetReceiptsArgs &args) {
-    return GetReceipts(args.startDate, args.endDate, args.sortOrder, args.maxRows, args.payeeName,
-                       args.receiptNumber, args.useCustomFields, args.includeOpening);
+// The page goes on from the last row shown by the row value of the list's
+// order, which the date and number index serves, so that a page deep into
+// the list costs what the first one does.
+void Receipt::GetReceiptsPage(const GetReceiptsArgs &args, const ListEntry *after, int count,
+                              QList<ListEntry> &page) {
+    Q_ASSERT(args.sortOrder == 0);
+    reraiseWithPrefix(u"Receipt.getReceipts:  "_s, [&] {
+        // The page starts on the last row's day at the earliest, so that
+        // the index seeks straight to it rather than from the start date.
+        GetReceiptsArgs bounded = args;
+        if (after && !args.startDate.isEmpty())
+            bounded.startDate =
+                Runtime::shortDate(std::max(listDate(args.startDate), after->receiptDate.date()));
+        Conditions where = listConditions(*this, bounded);
+        if (after) {
+            where.add(u"(R.receiptDate, R.receiptNumber, R.receiptID) > (?, ?, ?) "_s,
+                      after->receiptDate);
+            where.appendParams({after->receiptNumber, after->receiptID});
+        }
+        const QString sql =
+            u"SELECT R.receiptID, R.receiptDate, R.receiptNumber, P.payeeName, "
+            "R.amountReceived, R.balanceRemaining, S.statusName FROM (tblReceipt AS R "
+            "LEFT JOIN tblPayee AS P ON P.payeeID = R.payeeID) "
+            "LEFT JOIN tblStatus AS S ON S.statusID = R.status WHERE "_s +
+            where.sql() + u"ORDER BY R.receiptDate, R.receiptNumber, R.receiptID LIMIT ?"_s;
+        db::Params params = where.params();
+        params.append(count);
+        db::forEachRow(sql, params, [&page](const db::Cells &cells) {
+            page.append({cells.int32(0), cells.dateTime(1), cells.text(2), cells.text(3),
+                         cells.currency(4), cells.currency(5), cells.text(6)});
+        });
+    });
 }
 
 qint32 Receipt::GetReceiptCount() {

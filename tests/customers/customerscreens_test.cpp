@@ -3,6 +3,7 @@
 
 #include "customers/frmcustomerlist.h"
 #include "customers/frmcustpop.h"
+#include "customers/frmcustprop.h"
 #include "mainwin/frmmain.h"
 #include "support/briskotest.h"
 
@@ -173,33 +174,26 @@ TEST_F(CustomerScreensTest, PickModeHandsBackTheDoubleClickedCustomer) {
                   screen.findChild<QAction *>(u"ID_Close"_s)->trigger();
               }),
               0);
-
-    // Browsing, a double click opens no sheet yet and the search stays.
-    frmCustomerList browser;
-    browser.show();
-    click(browser, u"Command2"_s);
-    doubleClick(listOf(browser), 1);
-    EXPECT_TRUE(browser.isVisible());
-    EXPECT_EQ(browser.selectedID, 0);
-    EXPECT_EQ(listOf(browser)->model()->rowCount(), 7);
 }
 
-// Once the sheet has been shown the search runs again with the text and the
-// option in force: a list from "Retrieve All" comes back filtered.
-TEST_F(CustomerScreensTest, AfterTheSheetTheSearchRunsAgain) {
+// Browsing, a double click opens the customer's sheet; once it closes the
+// search runs again with the text and the option in force, so that a list
+// from "Retrieve All" comes back filtered.
+TEST_F(CustomerScreensTest, TheSheetOpensFromTheListAndTheSearchRunsAgain) {
     addShop();
-    struct Browser : frmCustomerList {
-        QList<qint32> sheets;
-        bool showCustomerSheet(qint32 payeeID) override {
-            sheets.append(payeeID);
-            return true;
-        }
-    } browser;
+    frmCustomerList browser;
     browser.show();
     control<QLineEdit>(browser, u"txtName"_s)->setText(u"a"_s);
     click(browser, u"Command2"_s);
-    doubleClick(listOf(browser), 3);
-    EXPECT_EQ(browser.sheets, QList<qint32>{6});
+    const qint32 shown =
+        driveModal<frmCustProp>([&] { doubleClick(listOf(browser), 3); },
+                                [](frmCustProp &sheet) {
+                                    sheet.findChild<QAction *>(u"ID_Close"_s)->trigger();
+                                    return sheet.payeeID;
+                                });
+    EXPECT_EQ(shown, 6);
+    EXPECT_TRUE(browser.isVisible());
+    EXPECT_EQ(browser.selectedID, 0);
     EXPECT_EQ(names(listOf(browser)), (QStringList{u"A_B Ltd"_s, u"apple"_s, u"AxB Ltd"_s}));
 }
 

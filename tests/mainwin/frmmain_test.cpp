@@ -305,10 +305,11 @@ TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
     EXPECT_EQ(entriesOf(window->findChild<QMenuBar *>(u"ToolBar2"_s)),
               (QStringList{u"&File"_s, u"&Tools"_s, u"&Reports"_s, u"&Help"_s}));
     EXPECT_EQ(entriesOf(window->tool(u"ID_Tools"_s)->menu()),
-              (QStringList{u"Customers"_s, u"-"_s, u"Maintenance"_s}));
+              (QStringList{u"Update Receipt Status"_s, u"Receipt Journal"_s, u"-"_s, u"Customers"_s,
+                           u"-"_s, u"Maintenance"_s}));
     EXPECT_EQ(entriesOf(window->findChild<QToolBar *>(u"ToolBar1"_s)),
-              (QStringList{u"New Receipt"_s, u"-"_s, u"Inventory"_s, u"-"_s, u"Customers"_s, u"-"_s,
-                           u"&Reports"_s}));
+              (QStringList{u"New Receipt"_s, u"-"_s, u"Receipt Journal"_s, u"Inventory"_s, u"-"_s,
+                           u"Customers"_s, u"-"_s, u"&Reports"_s}));
     EXPECT_EQ(entriesOf(window->tool(u"ID_Reports"_s)->menu()),
               (QStringList{u"Receipt Ledger"_s, u"-"_s, u"Service Ledger"_s, u"Inventory Sold"_s,
                            u"Inventory Sold Detail"_s, u"Service Breakdown Report"_s}));

@@ -1,0 +1,479 @@
+// The receipt journal with its custom search, the status change and the
+// reprint, opened from the main window as a person opens them.
+
+#include "admin/systemuser.h"
+#include "app/company.h"
+#include "app/runtimeformat.h"
+#include "app/session.h"
+#include "editor/frmreceipt.h"
+#include "mainwin/frmcustomsearchprop.h"
+#include "mainwin/frmjournal.h"
+#include "mainwin/frmmain.h"
+#include "mainwin/frmreprint.h"
+#include "mainwin/frmvoid.h"
+#include "output/reportdelivery.h"
+#include "output/reportlayout.h"
+#include "receipts/receipt.h"
+#include "support/briskotest.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QTest>
+#include <QTreeView>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// Notes where each receipt went, by its report title.
+class NotingDelivery final : public ReportDelivery {
+public:
+    QStringList *notes = nullptr;
+    bool askParameters(const QString &, const QList<ReportParameter> &,
+                       QHash<QString, QVariant> &) override {
+        return true;
+    }
+    void toPrinter(const RenderedReport &report) override {
+        notes->append(u"printer: "_s + report.title);
+    }
+    void toScreen(const RenderedReport &report) override {
+        notes->append(u"screen: "_s + report.title);
+    }
+    void toMail(const MailMessage &) override {}
+};
+
+class JournalTest : public BriskoTest {
+protected:
+    void SetUp() override {
+        BriskoTest::SetUp();
+        auto delivery = std::make_unique<NotingDelivery>();
+        delivery->notes = &printed;
+        m_previous = installReportDelivery(std::move(delivery));
+        window = std::make_unique<frmMain>();
+        window->load();
+        obrien = addCustomer(u"Pat O'Brien"_s);
+        cotton = addCustomer(u"100% Cotton"_s);
+    }
+    void TearDown() override {
+        window.reset();
+        installReportDelivery(std::move(m_previous));
+        BriskoTest::TearDown();
+    }
+
+    static qint32 addCustomer(const QString &name) {
+        return qint32(db::insertReturningKey(
+            u"INSERT INTO tblPayee (payeeName, address1, address2, city, state, zip, phone, "
+            "email) VALUES (?, '1 Elm St', '', 'Dover', 'NH', '03820', '555-0100', '') "
+            "RETURNING payeeID"_s,
+            {name}));
+    }
+
+    static qint32 addReceipt(const QString &number, const QDate &day, qint32 payeeID,
+                             int received = 10, int remaining = 0,
+                             qint16 type = Receipt::ProductReceipt, const QString &custom1 = {}) {
+        Receipt receipt;
+        receipt.receiptNumber = number;
+        receipt.receiptDate = QDateTime(day, QTime(0, 0));
+        receipt.payeeID = payeeID;
+        receipt.status = Receipt::Issued;
+        receipt.receiptType = type;
+        receipt.amountDue = Currency::fromInt(received + remaining);
+        receipt.amountReceived = Currency::fromInt(received);
+        receipt.balanceRemaining = Currency::fromInt(remaining);
+        receipt.customField1 = custom1;
+        receipt.writeReceipt();
+        return receipt.receiptID;
+    }
+
+    // Opens the journal from the main window and lets `act` drive it.
+    void onJournal(const std::function<void(frmJournal &)> &act) {
+        driveModal<frmJournal>([&] { window->toolClick(u"ID_ReceiptJournal"_s); },
+                               [&](frmJournal &journal) {
+                                   act(journal);
+                                   journal.findChild<QAction *>(u"ID_Close"_s)->trigger();
+                               });
+    }
+
+    static QTableView *hits(const frmJournal &journal) {
+        return control<QTableView>(journal, u"lstReceipts"_s);
+    }
+    static QStringList column(const frmJournal &journal, int column) {
+        QStringList texts;
+        const QAbstractItemModel *model = hits(journal)->model();
+        for (int row = 0; row < model->rowCount(); ++row)
+            texts.append(model->index(row, column).data().toString());
+        return texts;
+    }
+    static QStringList numbers(const frmJournal &journal) { return column(journal, 1); }
+    static void search(const frmJournal &journal, const QString &name = {},
+                       const QString &number = {}) {
+        control<QLineEdit>(journal, u"txtName"_s)->setText(name);
+        control<QLineEdit>(journal, u"txtReceipt"_s)->setText(number);
+        click(journal, u"cmdSearch"_s);
+    }
+    static QAction *tool(const QWidget &screen, const QString &id) {
+        return screen.findChild<QAction *>(id);
+    }
+    static void select(const frmJournal &journal, int row) {
+        hits(journal)->setCurrentIndex(hits(journal)->model()->index(row, 0));
+    }
+
+    std::unique_ptr<frmMain> window;
+    QStringList printed;
+    qint32 obrien = 0;
+    qint32 cotton = 0;
+
+private:
+    std::unique_ptr<ReportDelivery> m_previous;
+};
+
+TEST_F(JournalTest, OpensOnAllDatesWithNothingSearchedAndListsEveryReceipt) {
+    addReceipt(u"26-002"_s, QDate(2026, 3, 2), obrien, 60, 40);
+    addReceipt(u"26-001"_s, QDate(2026, 3, 2), cotton, 0, 0, Receipt::ServiceReceipt);
+    addReceipt(u"00-001"_s, QDate(1900, 1, 1), cotton);
+    onJournal([](frmJournal &journal) {
+        EXPECT_EQ(journal.windowTitle(), u"Receipt Journal"_s);
+        EXPECT_EQ(controlsWithoutAccessibleName(journal), QStringList());
+        EXPECT_TRUE(control<QCheckBox>(journal, u"chkAllDates"_s)->isChecked());
+        for (const QString &name : {u"txtStartDate"_s, u"txtEndDate"_s})
+            EXPECT_FALSE(control<QDateEdit>(journal, name)->isEnabled());
+        EXPECT_FALSE(control<QLabel>(journal, u"Label1"_s)->isEnabled());
+        EXPECT_EQ(control<QDateEdit>(journal, u"txtStartDate"_s)->date(), QDate::currentDate());
+        EXPECT_EQ(hits(journal)->model()->rowCount(), 0);
+        EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
+
+        search(journal);
+        EXPECT_EQ(numbers(journal), (QStringList{u"00-001"_s, u"26-001"_s, u"26-002"_s}));
+        QStringList headers, last;
+        const QAbstractItemModel *model = hits(journal)->model();
+        for (int section = 0; section < model->columnCount(); ++section) {
+            headers.append(model->headerData(section, Qt::Horizontal).toString());
+            last.append(model->index(2, section).data().toString());
+        }
+        EXPECT_EQ(headers, (QStringList{u"Date"_s, u"Receipt No."_s, u"Customer Name"_s, u"Total"_s,
+                                        u"Status"_s}));
+        EXPECT_EQ(last, (QStringList{Runtime::generalDate(QDateTime(QDate(2026, 3, 2), {})),
+                                     u"26-002"_s, u"Pat O'Brien"_s, u"100.00"_s, u"Issued"_s}));
+        EXPECT_EQ(model->index(1, 3).data().toString(), u".00"_s);
+        EXPECT_EQ(hits(journal)->currentIndex().row(), 0);
+        EXPECT_TRUE(tool(journal, u"ID_Print"_s)->isEnabled());
+        EXPECT_TRUE(tool(journal, u"ID_PrintPreview"_s)->isEnabled());
+
+        search(journal, u"nobody"_s);
+        EXPECT_EQ(hits(journal)->model()->rowCount(), 0);
+        EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
+        EXPECT_FALSE(tool(journal, u"ID_PrintPreview"_s)->isEnabled());
+    });
+    EXPECT_TRUE(boxes().shown.isEmpty());
+}
+
+TEST_F(JournalTest, FiltersByDatesNameNumberAndOpeningBalances) {
+    addReceipt(u"26-001"_s, QDate(2026, 3, 1), obrien);
+    addReceipt(u"26-002"_s, QDate(2026, 3, 2), cotton);
+    addReceipt(u"26-003"_s, QDate(2026, 3, 3), obrien);
+    addReceipt(u"Opening Balance"_s, QDate(2026, 3, 2), obrien, 0, 0, Receipt::OpeningBalance);
+    onJournal([](frmJournal &journal) {
+        auto *allDates = control<QCheckBox>(journal, u"chkAllDates"_s);
+        allDates->click();
+        EXPECT_TRUE(control<QDateEdit>(journal, u"txtEndDate"_s)->isEnabled());
+        control<QDateEdit>(journal, u"txtStartDate"_s)->setDate(QDate(2026, 3, 2));
+        control<QDateEdit>(journal, u"txtEndDate"_s)->setDate(QDate(2026, 3, 2));
+        search(journal);
+        EXPECT_EQ(numbers(journal), QStringList{u"26-002"_s});
+        control<QCheckBox>(journal, u"openBal"_s)->setChecked(true);
+        search(journal);
+        EXPECT_EQ(numbers(journal), (QStringList{u"26-002"_s, u"Opening Balance"_s}));
+        control<QCheckBox>(journal, u"openBal"_s)->setChecked(false);
+        allDates->click();
+
+        // Part of a name, apostrophe and wildcards included, as typed.
+        search(journal, u"'bri"_s);
+        EXPECT_EQ(numbers(journal), (QStringList{u"26-001"_s, u"26-003"_s}));
+        search(journal, u"0%"_s);
+        EXPECT_EQ(numbers(journal), QStringList{u"26-002"_s});
+        search(journal, u"_"_s);
+        EXPECT_TRUE(numbers(journal).isEmpty());
+        // The number matches whole, in any case.
+        search(journal, {}, u"26-00"_s);
+        EXPECT_TRUE(numbers(journal).isEmpty());
+        search(journal, {}, u"26-003"_s);
+        EXPECT_EQ(numbers(journal), QStringList{u"26-003"_s});
+        search(journal, {}, u"o'"_s);
+        EXPECT_TRUE(numbers(journal).isEmpty());
+    });
+    EXPECT_TRUE(boxes().shown.isEmpty());
+}
+
+// The custom terms count only in the search their dialog starts.
+TEST_F(JournalTest, CustomTermsCountOnlyInTheirOwnSearch) {
+    company().customField1 = u"Colour"_s;
+    addReceipt(u"26-001"_s, QDate(2026, 3, 1), obrien, 10, 0, 0, u"dark red"_s);
+    addReceipt(u"26-002"_s, QDate(2026, 3, 2), obrien, 10, 0, 0, u"blue"_s);
+    onJournal([](frmJournal &journal) {
+        auto *frame = control<QGroupBox>(journal, u"Frame2"_s);
+        EXPECT_EQ(frame->title(), u"Custom Fields:"_s);
+        driveModal<frmCustomSearchProp>([&] { click(journal, u"cmdCustom"_s); },
+                                        [](frmCustomSearchProp &dialog) {
+                                            EXPECT_EQ(dialog.windowTitle(),
+                                                      u"Custom Search Properties"_s);
+                                            click(dialog, u"cmdCancel"_s);
+                                        });
+        EXPECT_EQ(frame->title(), u"Custom Fields:"_s);
+        EXPECT_EQ(hits(journal)->model()->rowCount(), 0);
+
+        driveModal<frmCustomSearchProp>(
+            [&] { click(journal, u"cmdCustom"_s); },
+            [](frmCustomSearchProp &dialog) {
+                EXPECT_EQ(control<QLabel>(dialog, u"lblCustom1"_s)->text(), u"Colour"_s);
+                EXPECT_TRUE(control<QLineEdit>(dialog, u"txtCustom1"_s)->isVisibleTo(&dialog));
+                EXPECT_FALSE(control<QLineEdit>(dialog, u"txtCustom2"_s)->isVisibleTo(&dialog));
+                EXPECT_EQ(controlsWithoutAccessibleName(dialog), QStringList());
+                control<QLineEdit>(dialog, u"txtCustom1"_s)->setText(u"RED"_s);
+                click(dialog, u"cmdSearch"_s);
+            });
+        EXPECT_EQ(frame->title(), u"Custom Fields:  (SET)"_s);
+        EXPECT_EQ(numbers(journal), QStringList{u"26-001"_s});
+
+        search(journal);
+        EXPECT_EQ(numbers(journal), (QStringList{u"26-001"_s, u"26-002"_s}));
+        EXPECT_EQ(frame->title(), u"Custom Fields:  (SET)"_s);
+
+        click(journal, u"cmdClear"_s);
+        EXPECT_EQ(frame->title(), u"Custom Fields:"_s);
+        EXPECT_EQ(hits(journal)->model()->rowCount(), 2);
+    });
+    EXPECT_EQ(boxes().lines(),
+              QStringList{u"Clear | Custom search fields have been cleared | Information"_s});
+}
+
+// "View Receipt" on the selected hit; the title of the editor it opened.
+QString viewSelected(QAbstractItemView *list) {
+    return driveModal<frmReceipt>([&] { EXPECT_TRUE(triggerPopupEntry(list, u"mnuEdit"_s)); },
+                                  [](frmReceipt &editor) {
+                                      const QString title = editor.windowTitle();
+                                      editor.reject();
+                                      return title;
+                                  });
+}
+
+TEST_F(JournalTest, PopupCommandsActOnTheSelectedReceipt) {
+    const qint32 first = addReceipt(u"26-001"_s, QDate::currentDate(), obrien);
+    addReceipt(u"26-002"_s, QDate::currentDate(), cotton);
+    addReceipt(u"26-003"_s, QDate::currentDate(), cotton);
+    db::execute(u"INSERT INTO tblReceipt_Product (receiptID, productID, quantity) "
+                "VALUES (?, 1, 1)"_s,
+                {first});
+    onJournal([&](frmJournal &journal) {
+        QTableView *list = hits(journal);
+        for (const QString &entry : {u"mnuPrint"_s, u"mnuStatus"_s, u"mnuDelete"_s, u"mnuEdit"_s})
+            EXPECT_FALSE(triggerPopupEntry(list, entry)) << "nothing listed";
+        search(journal);
+        select(journal, 1);
+        EXPECT_TRUE(triggerPopupEntry(list, u"mnuPrint"_s));
+        tool(journal, u"ID_PrintPreview"_s)->trigger();
+        EXPECT_EQ(viewSelected(list), u"Receipt 26-002"_s);
+
+        driveModal<frmVoid>(
+            [&] { EXPECT_TRUE(triggerPopupEntry(list, u"mnuStatus"_s)); },
+            [](frmVoid &dialog) {
+                EXPECT_EQ(control<QComboBox>(dialog, u"txtNumber"_s)->currentText(), u"26-002"_s);
+                EXPECT_EQ(control<QLabel>(dialog, u"lblStatus"_s)->text(), u"Issued"_s);
+                auto *status = control<QComboBox>(dialog, u"lstStatus"_s);
+                status->setCurrentIndex(2);
+                Q_EMIT status->activated(2);
+                click(dialog, u"cmdApply"_s);
+            });
+        EXPECT_EQ(column(journal, 4), (QStringList{u"Issued"_s, u"Void"_s, u"Issued"_s}))
+            << "searched again after the change";
+
+        boxes().answers.enqueue(Dialogs::Answer::No);
+        select(journal, 0);
+        EXPECT_TRUE(triggerPopupEntry(list, u"mnuDelete"_s));
+        EXPECT_EQ(numbers(journal).size(), 3);
+        EXPECT_TRUE(triggerPopupEntry(list, u"mnuDelete"_s));
+        EXPECT_EQ(numbers(journal), (QStringList{u"26-002"_s, u"26-003"_s}));
+    });
+    EXPECT_EQ(printed, (QStringList{u"printer: Receipt 26-002"_s, u"screen: Receipt 26-002"_s}));
+    EXPECT_EQ(db::readFirst(u"SELECT COUNT(*) AS n FROM tblReceipt_Product"_s)->int32(u"n"_s), 0);
+    EXPECT_EQ(db::readFirst(u"SELECT voidReason FROM tblReceipt WHERE receiptNumber = '26-002'"_s)
+                  ->text(u"voidReason"_s),
+              QString());
+    const QString question =
+        u"Confirm | Are you sure you want to delete this receipt? | Question"_s;
+    EXPECT_EQ(boxes().lines(),
+              (QStringList{u"Void Receipt | Void Reason"_s,
+                           u"Success | Receipt status has been updated for receipt number 26-002 | "
+                           "Information"_s,
+                           question, question,
+                           u"Completed | Receipt has been deleted! | Information"_s}));
+    // The main window's lists were refreshed when the journal closed.
+    EXPECT_EQ(window->findChild<QTreeView *>(u"lstReceipts"_s)->model()->rowCount(), 2);
+}
+
+TEST_F(JournalTest, RightsDecideDeleteAndStatus) {
+    addReceipt(u"26-001"_s, QDate::currentDate(), obrien);
+    auto user = std::make_shared<SystemUser>();
+    user->canDelete = 0;
+    user->canVoid = 0;
+    session().currentUser = user;
+    onJournal([this](frmJournal &journal) {
+        QTableView *list = hits(journal);
+        QTest::keyClick(list, Qt::Key_Delete);
+        EXPECT_TRUE(boxes().shown.isEmpty()) << "an empty list takes no key";
+        search(journal);
+        EXPECT_FALSE(triggerPopupEntry(list, u"mnuDelete"_s));
+        EXPECT_EQ(viewSelected(list), u"Receipt 26-001"_s);
+        company().restrictAccess = true;
+        EXPECT_FALSE(triggerPopupEntry(list, u"mnuStatus"_s));
+        journal.activateWindow(); // a shortcut needs its window active again after the editor
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&journal));
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Delete);
+        EXPECT_EQ(numbers(journal), QStringList{u"26-001"_s});
+    });
+    EXPECT_EQ(boxes().lines(),
+              QStringList{u"Access Denied | Access Denied\nYour account does not have rights to "
+                          "delete a receipt.  Please see your system administrator. | Critical"_s});
+}
+
+// A receipt whose customer is gone ends the list at its row with the box.
+TEST_F(JournalTest, AReceiptWithoutItsCustomerEndsTheList) {
+    addReceipt(u"26-001"_s, QDate(2026, 3, 1), obrien);
+    addReceipt(u"26-002"_s, QDate(2026, 3, 2), cotton);
+    addReceipt(u"26-003"_s, QDate(2026, 3, 3), obrien);
+    db::execute(u"DELETE FROM tblPayee WHERE payeeID = ?"_s, {cotton});
+    onJournal([](frmJournal &journal) {
+        search(journal);
+        EXPECT_EQ(numbers(journal), QStringList{u"26-001"_s});
+        EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
+    });
+    EXPECT_EQ(boxes().lines(),
+              QStringList{u"Error | frmJournal.getReceipts:  Receipt.getReceipts:  "
+                          "Invalid use of Null | Critical"_s});
+}
+
+// Pages follow each other in date and number order, the key settling ties,
+// however many rows share a date or a number.
+TEST_F(JournalTest, TheListReadsOnAsTheViewScrolls) {
+    {
+        db::Transaction transaction;
+        for (int index = 0; index < 700; ++index)
+            addReceipt(u"N%1"_s.arg(index % 300, 3, 10, QChar(u'0')),
+                       QDate(2026, 1, 1).addDays(index / 250), obrien);
+        transaction.commit();
+    }
+    onJournal([](frmJournal &journal) {
+        search(journal);
+        QTableView *list = hits(journal);
+        QAbstractItemModel *model = list->model();
+        EXPECT_LT(model->rowCount(), 700);
+        while (model->canFetchMore({}))
+            list->scrollToBottom(), model->fetchMore({});
+        ASSERT_EQ(model->rowCount(), 700);
+        const db::Snapshot expected =
+            db::select(u"SELECT receiptID FROM tblReceipt ORDER BY receiptDate, receiptNumber, "
+                       "receiptID"_s);
+        for (int row = 0; row < 700; ++row)
+            ASSERT_EQ(model->index(row, 0).data(Qt::UserRole).toInt(),
+                      expected.at(row).int32(u"receiptID"_s))
+                << row;
+    });
+}
+
+TEST_F(JournalTest, StatusChangesByNumberWithAReason) {
+    addReceipt(u"26-001"_s, QDate::currentDate(), obrien);
+    addReceipt(u"19-001"_s, QDate(2019, 5, 1), obrien);
+    const auto voidReason = [] {
+        return db::readFirst(u"SELECT status, voidReason FROM tblReceipt WHERE receiptNumber = "
+                             "'19-001'"_s)
+            .value();
+    };
+    const auto change = [&](int status, const QString &reason) {
+        if (!reason.isNull())
+            boxes().texts.enqueue(reason);
+        driveModal<frmVoid>([&] { window->toolClick(u"ID_UpdateReceiptStatus"_s); },
+                            [&](frmVoid &dialog) {
+                                EXPECT_EQ(dialog.windowTitle(), u"Change Receipt Status"_s);
+                                auto *number = control<QComboBox>(dialog, u"txtNumber"_s);
+                                EXPECT_EQ(number->count(), 1) << "this year's receipts";
+                                number->setEditText(u"19-001"_s);
+                                EXPECT_FALSE(
+                                    control<QPushButton>(dialog, u"cmdApply"_s)->isEnabled());
+                                click(dialog, u"cmdSearch"_s);
+                                auto *states = control<QComboBox>(dialog, u"lstStatus"_s);
+                                states->setCurrentIndex(status);
+                                Q_EMIT states->activated(status);
+                                click(dialog, u"cmdApply"_s);
+                            });
+    };
+    change(2, u"Wrong customer"_s);
+    EXPECT_EQ(voidReason().int32(u"status"_s), 2);
+    EXPECT_EQ(voidReason().text(u"voidReason"_s), u"Wrong customer"_s);
+    change(1, QString());
+    EXPECT_EQ(voidReason().int32(u"status"_s), 1);
+    EXPECT_EQ(voidReason().text(u"voidReason"_s), QString());
+
+    driveModal<frmVoid>([&] { window->toolClick(u"ID_UpdateReceiptStatus"_s); },
+                        [](frmVoid &dialog) {
+                            EXPECT_EQ(controlsWithoutAccessibleName(dialog), QStringList());
+                            control<QComboBox>(dialog, u"txtNumber"_s)->setEditText(u"none"_s);
+                            click(dialog, u"cmdSearch"_s);
+                            EXPECT_FALSE(control<QComboBox>(dialog, u"lstStatus"_s)->isEnabled());
+                            click(dialog, u"cmdCancel"_s);
+                        });
+    EXPECT_EQ(boxes().lines().mid(1, 1),
+              QStringList{u"Success | Receipt status has been updated for receipt number 19-001 | "
+                          "Information"_s});
+    EXPECT_EQ(boxes().lines().last(),
+              u"Receipt Not Found | Receipt number not found.  Please try again. | Information"_s);
+}
+
+TEST_F(JournalTest, ReprintTakesTheLastReceiptOrTheOneNamed) {
+    const auto reprint = [&](const std::function<void(frmReprint &)> &act) {
+        driveModal<frmReprint>([&] { window->toolClick(u"ID_ReprintReceipt"_s); },
+                               [&](frmReprint &dialog) {
+                                   act(dialog);
+                                   click(dialog, u"cmdCancel"_s);
+                               });
+    };
+    reprint([](frmReprint &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Reprint Receipt"_s);
+        EXPECT_EQ(controlsWithoutAccessibleName(dialog), QStringList());
+        EXPECT_FALSE(control<QLineEdit>(dialog, u"txtReceiptNumber"_s)->isEnabled());
+        click(dialog, u"cmdPrint"_s);
+    });
+    const qint32 older = addReceipt(u"26-001"_s, QDate::currentDate(), obrien);
+    addReceipt(u"26-002"_s, QDate::currentDate(), obrien);
+    reprint([](frmReprint &dialog) { click(dialog, u"cmdPrint"_s); });
+    session().lastReceiptID = older;
+    reprint([](frmReprint &dialog) {
+        control<QCheckBox>(dialog, u"chkDisplay"_s)->setChecked(true);
+        click(dialog, u"cmdPrint"_s);
+        // A click on the locked number box chooses a specific receipt.
+        auto *number = control<QLineEdit>(dialog, u"txtReceiptNumber"_s);
+        QTest::mouseClick(number, Qt::LeftButton);
+        EXPECT_TRUE(control<QRadioButton>(dialog, u"receiptOption1"_s)->isChecked());
+        EXPECT_TRUE(number->isEnabled());
+        number->setText(u"26-002"_s);
+        click(dialog, u"cmdPrint"_s);
+        number->setText(u"26-009"_s);
+        click(dialog, u"cmdPrint"_s);
+    });
+    EXPECT_EQ(printed, (QStringList{u"printer: Receipt 26-002"_s, u"screen: Receipt 26-001"_s,
+                                    u"screen: Receipt 26-002"_s}));
+    EXPECT_EQ(
+        boxes().lines(),
+        (QStringList{u"Print Receipt | No receipts were found in the database. | Exclamation"_s,
+                     u"Unknown Receipt Number | Receipt number entered was not found.  "
+                     "Please try again. | Exclamation"_s}));
+}
+
+} // namespace
