@@ -110,6 +110,7 @@ private:
 
     // Start-up and users.
     void centreOnScreen();
+    bool runFirstRunWizard();
     bool logIn();
     void makeAnonymousUser(bool canRunReports);
     void applyVoidAndAdminRights();

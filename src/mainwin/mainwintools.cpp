@@ -12,6 +12,7 @@
 #include "ui_frmMain.h"
 
 #include "admin/frmmultiuser.h"
+#include "admin/frmoptions.h"
 #include "admin/systemuser.h"
 #include "app/session.h"
 #include "catalogue/frmpaymethod.h"
@@ -113,6 +114,7 @@ const QList<frmMain::Tool> &frmMain::tools() {
          .caption = QT_TRANSLATE_NOOP("frmMain", "Update Receipt Status")},
         {.id = "ID_Options",
          .caption = QT_TRANSLATE_NOOP("frmMain", "Options"),
+         .command = &frmMain::showModal<frmOptions>,
          .themeIcon = "preferences-system"},
         {.id = "ID_ServiceDescriptions",
          .caption = QT_TRANSLATE_NOOP("frmMain", "Service Descriptions"),
