@@ -96,6 +96,7 @@ frmOptions::frmOptions(QWidget *parent)
     ui->lstUsers->setColumnWidth(0, 220);
     ui->lstUsers->installEventFilter(this);
 
+    ui->ID_SaveChanges->setShortcut(QKeySequence::Save);
     connect(ui->ID_SaveChanges, &QAction::triggered, this, &frmOptions::saveOptions);
     connect(ui->ID_Close, &QAction::triggered, this, &QDialog::reject);
     connect(ui->lstCurrencySymbol, &QComboBox::currentIndexChanged, this,
