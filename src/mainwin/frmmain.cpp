@@ -4,6 +4,7 @@
 #include "admin/databasefiles.h"
 #include "admin/dbupdater.h"
 #include "admin/frmlogin.h"
+#include "admin/frmnewcompany.h"
 #include "admin/systemuser.h"
 #include "admin/updatecheck.h"
 #include "app/company.h"
@@ -88,7 +89,9 @@ bool frmMain::load() {
     centreOnScreen();
     Session &state = session();
     if (!state.mainStarted) {
-        // The first-run wizard joins here, before the caption is written.
+        // A cancelled wizard has ended the program.
+        if (state.firstRunFlag && !runFirstRunWizard())
+            return false;
         setWindowTitle(tr("Brisko - ") + company().companyName);
         refreshLists();
         state.mainStarted = true;
@@ -109,6 +112,12 @@ void frmMain::centreOnScreen() {
     const QSize frame = frameGeometry().size() - size();
     resize(size().boundedTo(available.size() - frame));
     move(available.center() - frameGeometry().center() + frameGeometry().topLeft());
+}
+
+// The wizard of a new installation; false when it was cancelled.
+bool frmMain::runFirstRunWizard() {
+    frmNewCompany wizard(this);
+    return wizard.exec() == QDialog::Accepted;
 }
 
 // Shows the login; false when nobody logged in, and then the process ends at

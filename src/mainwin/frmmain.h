@@ -108,6 +108,7 @@ private:
 
     // Start-up and users.
     void centreOnScreen();
+    bool runFirstRunWizard();
     bool logIn();
     void makeAnonymousUser(bool canRunReports);
     void applyVoidAndAdminRights();

@@ -13,6 +13,7 @@
 #include "ui_frmMain.h"
 
 #include "admin/frmmultiuser.h"
+#include "admin/frmoptions.h"
 #include "admin/systemuser.h"
 #include "app/session.h"
 #include "catalogue/frmpaymethod.h"
@@ -125,6 +126,7 @@ const QList<frmMain::Tool> &frmMain::tools() {
          .command = &frmMain::showModal<frmVoid>},
         {.id = "ID_Options",
          .caption = QT_TRANSLATE_NOOP("frmMain", "Options"),
+         .command = &frmMain::showModal<frmOptions>,
          .themeIcon = "preferences-system"},
         {.id = "ID_ServiceDescriptions",
          .caption = QT_TRANSLATE_NOOP("frmMain", "Service Descriptions"),

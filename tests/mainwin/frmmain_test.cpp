@@ -306,7 +306,7 @@ TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
               (QStringList{u"&File"_s, u"&Tools"_s, u"&Reports"_s, u"&Help"_s}));
     EXPECT_EQ(entriesOf(window->tool(u"ID_Tools"_s)->menu()),
               (QStringList{u"Update Receipt Status"_s, u"Receipt Journal"_s, u"-"_s, u"Customers"_s,
-                           u"-"_s, u"Maintenance"_s}));
+                           u"-"_s, u"Maintenance"_s, u"-"_s, u"Options"_s}));
     EXPECT_EQ(entriesOf(window->findChild<QToolBar *>(u"ToolBar1"_s)),
               (QStringList{u"New Receipt"_s, u"-"_s, u"Receipt Journal"_s, u"Inventory"_s, u"-"_s,
                            u"Customers"_s, u"-"_s, u"&Reports"_s}));
@@ -325,7 +325,7 @@ TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
     // Every tool is in the pool under its id, placed or not; one without a
     // command does nothing.
     EXPECT_EQ(window->tool(u"ID_Multi-UserSettings"_s)->text(), u"Multi-User Settings"_s);
-    window->toolClick(u"ID_Options"_s);
+    window->toolClick(u"ID_ServicesProvided"_s);
     EXPECT_TRUE(boxes().shown.isEmpty());
 
     window->tool(u"ID_WhatsNew"_s)->trigger();

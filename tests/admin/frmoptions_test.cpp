@@ -1,0 +1,474 @@
+#include "admin/frmoptions.h"
+#include "admin/frmuser.h"
+#include "admin/systemuser.h"
+#include "app/company.h"
+#include "app/session.h"
+#include "mainwin/frmmain.h"
+#include "output/mailsettings.h"
+#include "platform/paths.h"
+#include "platform/registry.h"
+#include "support/briskotest.h"
+#include "usertestdata.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTreeWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The check boxes in the order the load ticks them.
+const QStringList checkBoxes = {
+    u"chkResetNumbering"_s,  u"chkRequireAddress"_s, u"hideTax"_s,       u"chkHideAcctBalance"_s,
+    u"chkUseAutoComplete"_s, u"chkHideDiscount"_s,   u"chkTaxExtempt"_s, u"posPrinter"_s};
+
+// The columns of tblSystem the options write, in that order.
+const QStringList systemColumns = {u"companyName"_s,
+                                   u"address1"_s,
+                                   u"address2"_s,
+                                   u"city"_s,
+                                   u"state"_s,
+                                   u"zip"_s,
+                                   u"phone"_s,
+                                   u"numberFormat"_s,
+                                   u"defaultPaymentType"_s,
+                                   u"defaultReceiptType"_s,
+                                   u"taxRate"_s,
+                                   u"tagline"_s,
+                                   u"currencySymbol"_s,
+                                   u"customField1"_s,
+                                   u"customField2"_s,
+                                   u"customField3"_s,
+                                   u"customField4"_s,
+                                   u"customField5"_s,
+                                   u"customField6"_s,
+                                   u"customCurrency"_s,
+                                   u"resetNumberEOY"_s,
+                                   u"requireAddress"_s,
+                                   u"restrictAccess"_s,
+                                   u"hideSalesTax"_s,
+                                   u"hideAcctBalance"_s,
+                                   u"useAutoComplete"_s,
+                                   u"hideDiscountField"_s,
+                                   u"isTaxExempt"_s,
+                                   u"otherFieldName"_s,
+                                   u"usePOSPrinter"_s};
+
+class OptionsTest : public BriskoTest {
+protected:
+    void TearDown() override {
+        screen.reset();
+        BriskoTest::TearDown();
+    }
+
+    // A company row with a value in every column, read into the record, and
+    // mail settings with a user name.
+    static void fillCompany(int currencySymbol = 128) {
+        db::execute(u"UPDATE tblSystem SET companyName = 'Ann''s Bakery', address1 = '1 Main St', "
+                    u"address2 = 'Unit 2', city = 'Springfield', state = 'Ontario', zip = 'K1A', "
+                    u"phone = '555-1234', numberFormat = 'yy-[0000]', defaultPaymentType = 2, "
+                    u"defaultReceiptType = 1, taxRate = 7.25, tagline = 'Fresh daily', "
+                    u"currencySymbol = ?, customField1 = 'C1', customField2 = 'C2', "
+                    u"customField3 = 'C3', customField4 = 'C4', customField5 = 'C5', "
+                    u"customField6 = 'C6', customCurrency = 'Kr', resetNumberEOY = 1, "
+                    u"requireAddress = 0, restrictAccess = 0, hideSalesTax = 1, "
+                    u"hideAcctBalance = 0, useAutoComplete = 1, hideDiscountField = 1, "
+                    u"isTaxExempt = 0, otherFieldName = 'Tips', usePOSPrinter = 1"_s,
+                    {currencySymbol});
+        resetCompany();
+        modMain::loadCompanyInfo();
+        MailSettings mail;
+        mail.mailServer = u"smtp.example"_s;
+        mail.mailFrom = u"ann@example"_s;
+        mail.mailUsername = u"ann"_s;
+        mail.mailPassword = u"pw"_s;
+        mail.mailPort = 587;
+        mail.useTLS = true;
+        mail.store();
+    }
+
+    void open() {
+        screen = std::make_unique<frmOptions>();
+        screen->show();
+    }
+    template <typename Control = QLineEdit> Control *field(const QString &name) const {
+        return control<Control>(*screen, name);
+    }
+    QAction *saveTool() const { return screen->findChild<QAction *>(u"ID_SaveChanges"_s); }
+    QTabWidget *tabs() const { return field<QTabWidget>(u"SSTab1"_s); }
+    void type(const QString &name, const QString &text) { field(name)->setText(text); }
+    // Near the left edge: a radio button only takes clicks on its circle and caption.
+    void clickOption(const QString &name) {
+        auto *option = field<QAbstractButton>(name);
+        QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(8, option->height() / 2));
+    }
+    void save() { saveTool()->trigger(); }
+
+    QString ticks(const QStringList &names) const {
+        QString flags;
+        for (const QString &name : names)
+            flags += field<QAbstractButton>(name)->isChecked() ? u'1' : u'0';
+        return flags;
+    }
+    QStringList users() const {
+        QStringList rows;
+        const auto *list = field<QTreeWidget>(u"lstUsers"_s);
+        for (int row = 0; row < list->topLevelItemCount(); ++row)
+            rows.append(list->topLevelItem(row)->text(0) + u" | "_s +
+                        list->topLevelItem(row)->text(1));
+        return rows;
+    }
+    static QStringList storedRow() {
+        const db::Row row = *db::readFirst(u"SELECT * FROM tblSystem"_s);
+        QStringList values;
+        for (const QString &column : systemColumns)
+            values.append(row.value(column).toString());
+        return values;
+    }
+
+    std::unique_ptr<frmOptions> screen;
+};
+
+TEST_F(OptionsTest, LoadsEveryFieldFromTheSettings) {
+    fillCompany();
+    open();
+    EXPECT_EQ(screen->windowTitle(), u"Options"_s);
+    EXPECT_EQ(controlsWithoutAccessibleName(*screen), QStringList());
+    QStringList titles;
+    for (int tab = 0; tab < tabs()->count(); ++tab)
+        titles.append(tabs()->tabText(tab));
+    EXPECT_EQ(titles, (QStringList{u"Company"_s, u"Receipt"_s, u"Defaults"_s, u"Logo"_s,
+                                   u"Custom Fields"_s, u"Security"_s, u"Email"_s}));
+
+    QStringList texts;
+    for (const QString &name : {u"txtName"_s,         u"txtAddress"_s, u"txtAddress2"_s,
+                                u"txtCity"_s,         u"txtZip"_s,     u"txtPhone"_s,
+                                u"txtNumberFormat"_s, u"txtTagline"_s, u"txtOtherFieldName"_s,
+                                u"txtTax"_s,          u"txtCustom1"_s, u"txtCustom2"_s,
+                                u"txtCustom3"_s,      u"txtCustom4"_s, u"txtCustom5"_s,
+                                u"txtCustom6"_s,      u"txtSymbol"_s,  u"mailServer"_s,
+                                u"email"_s,           u"mailPort"_s,   u"mailUsername"_s,
+                                u"mailPassword"_s})
+        texts.append(field(name)->text());
+    EXPECT_EQ(texts,
+              (QStringList{
+                  u"Ann's Bakery"_s, u"1 Main St"_s, u"Unit 2"_s,       u"Springfield"_s, u"K1A"_s,
+                  u"555-1234"_s,     u"yy-[0000]"_s, u"Fresh daily"_s,  u"Tips"_s,        u"7.25"_s,
+                  u"C1"_s,           u"C2"_s,        u"C3"_s,           u"C4"_s,          u"C5"_s,
+                  u"C6"_s,           u""_s,          u"smtp.example"_s, u"ann@example"_s, u"587"_s,
+                  u"ann"_s,          u"pw"_s}));
+    EXPECT_EQ(field<QComboBox>(u"txtState"_s)->currentText(), u"Ontario"_s);
+    EXPECT_EQ(field<QComboBox>(u"txtState"_s)->count(), 68);
+    EXPECT_EQ(ticks(checkBoxes), u"10101101"_s);
+    EXPECT_EQ(ticks({u"optReceipt0"_s, u"optReceipt1"_s, u"optSecurity0"_s, u"optSecurity1"_s,
+                     u"useAuth"_s, u"useTLS"_s}),
+              u"011011"_s);
+    EXPECT_EQ(field<QComboBox>(u"lstPaymentType"_s)->currentText(), u"Check"_s);
+    EXPECT_EQ(field<QComboBox>(u"lstPaymentType"_s)->itemText(5), u"Other"_s);
+    EXPECT_EQ(field<QComboBox>(u"lstCurrencySymbol"_s)->currentText(), u"Euro \u20AC"_s);
+    EXPECT_FALSE(field(u"txtSymbol"_s)->isEnabled());
+    EXPECT_EQ(field(u"txtCustom1"_s)->maxLength(), 15);
+    EXPECT_EQ(field(u"txtCustom2"_s)->maxLength(), 14);
+    EXPECT_EQ(field(u"txtNumberFormat"_s)->maxLength(), 20);
+    EXPECT_EQ(field(u"txtSymbol"_s)->maxLength(), 3);
+    EXPECT_EQ(field<QLabel>(u"Label8"_s)->text(),
+              u"Syntax:\nmm = Month\ndd = Day\nyy = Year(2), yyyy = Year (4)\n"
+              u"0 = digit placeholder, place within []\n"_s);
+    EXPECT_TRUE(field(u"mailUsername"_s)->isEnabled());
+    EXPECT_FALSE(field<QTreeWidget>(u"lstUsers"_s)->isEnabled());
+    EXPECT_FALSE(field<QAbstractButton>(u"cmdAddUser"_s)->isEnabled());
+    EXPECT_TRUE(field<QAbstractButton>(u"cmdDeleteUser"_s)->isEnabled());
+    EXPECT_FALSE(saveTool()->isEnabled());
+
+    // Save opens on any change and closes on a missing name or format, a
+    // custom currency without its symbol, or an address without a server.
+    type(u"txtTagline"_s, u"Fresher"_s);
+    EXPECT_TRUE(saveTool()->isEnabled());
+    type(u"txtName"_s, u""_s);
+    EXPECT_FALSE(saveTool()->isEnabled());
+    type(u"txtName"_s, u"Ann"_s);
+    field<QComboBox>(u"lstCurrencySymbol"_s)->setCurrentIndex(5);
+    EXPECT_TRUE(field(u"txtSymbol"_s)->isEnabled());
+    EXPECT_FALSE(saveTool()->isEnabled());
+    type(u"txtSymbol"_s, u"Kr"_s);
+    EXPECT_TRUE(saveTool()->isEnabled());
+    type(u"mailServer"_s, u""_s);
+    EXPECT_FALSE(saveTool()->isEnabled());
+    clickOption(u"useAuth"_s);
+    EXPECT_EQ(field(u"mailUsername"_s)->text() + field(u"mailPassword"_s)->text(), u""_s);
+    EXPECT_FALSE(field<QLabel>(u"Label22"_s)->isEnabled());
+
+    // Close keeps everything as it was.
+    screen->findChild<QAction *>(u"ID_Close"_s)->trigger();
+    EXPECT_FALSE(screen->isVisible());
+    EXPECT_EQ(storedRow().first(), u"Ann's Bakery"_s);
+    EXPECT_EQ(MailSettings::stored().mailUsername, u"ann"_s);
+}
+
+// One change on every tab: the row, the first-run mark, the mail settings,
+// the record in memory, then the restart.
+TEST_F(OptionsTest, SavingWritesEveryTabAndRestarts) {
+    fillCompany();
+    usertest::addAccount(u"boss"_s, u"pw"_s, 1, /*isAdmin=*/1);
+    open();
+    type(u"txtName"_s, u"Bo's Books"_s);
+    type(u"txtZip"_s, u"O'1"_s);
+    field<QComboBox>(u"txtState"_s)->setCurrentIndex(0); // the first entry means no state
+    type(u"txtNumberFormat"_s, u" YY-[000]"_s);
+    for (const QString &box : {u"chkResetNumbering"_s, u"chkRequireAddress"_s, u"posPrinter"_s})
+        clickOption(box);
+    type(u"txtTax"_s, u"6"_s);
+    field<QComboBox>(u"lstPaymentType"_s)->setCurrentIndex(0);
+    clickOption(u"optReceipt0"_s);
+    field<QComboBox>(u"lstCurrencySymbol"_s)->setCurrentIndex(4);
+    type(u"txtCustom6"_s, u"Table"_s);
+    clickOption(u"optSecurity1"_s);
+    EXPECT_TRUE(field<QTreeWidget>(u"lstUsers"_s)->isEnabled());
+    type(u"mailServer"_s, u"mail.example"_s);
+    clickOption(u"useAuth"_s);
+    type(u"mailPort"_s, u""_s);
+    save();
+
+    EXPECT_EQ(boxes().lines(), QStringList(u"Multi-User | Options have been changed.  Brisko Desk "
+                                           u"will now restart. | Exclamation"_s));
+    EXPECT_EQ(process().restartCalls, 1);
+    EXPECT_FALSE(screen->isVisible());
+    EXPECT_EQ(field(u"txtNumberFormat"_s)->text(), u" yy-[000]"_s);
+    EXPECT_EQ(
+        storedRow(),
+        (QStringList{u"Bo's Books"_s, u"1 Main St"_s,   u"Unit 2"_s,   u"Springfield"_s, u""_s,
+                     u"O'1"_s,        u"555-1234"_s,    u"yy-[000]"_s, u"1"_s,           u"0"_s,
+                     u"6"_s,          u"Fresh daily"_s, u"163"_s,      u"C1"_s,          u"C2"_s,
+                     u"C3"_s,         u"C4"_s,          u"C5"_s,       u"Table"_s,       u""_s,
+                     u"0"_s,          u"1"_s,           u"1"_s,        u"1"_s,           u"0"_s,
+                     u"1"_s,          u"1"_s,           u"0"_s,        u"Tips"_s,        u"0"_s}));
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::firstRun), u"no"_s);
+    const MailSettings mail = MailSettings::stored();
+    EXPECT_EQ(QStringList({mail.mailServer, mail.mailFrom, mail.mailUsername, mail.mailPassword,
+                           QString::number(mail.mailPort), QString::number(mail.useTLS)}),
+              (QStringList{u"mail.example"_s, u"ann@example"_s, u""_s, u""_s, u"0"_s, u"1"_s}));
+    EXPECT_EQ(company().companyName, u"Bo's Books"_s);
+    EXPECT_TRUE(company().restrictAccess);
+    EXPECT_EQ(company().currencySymbol, 163);
+}
+
+// The gate in front of the number format, then the one in front of logins.
+TEST_F(OptionsTest, NumberFormatAndSecurityChecksStopTheSave) {
+    open();
+    const QString placeholders = u"Error | Invalid receipt number format.  The format must "
+                                 u"contain at least one digit placeholder within brackets.  \n"
+                                 u"Example:  yy-[00] | Critical"_s;
+    const QString brackets = u"Error | Digit placeholders are not properly formatted.  Digit "
+                             u"placeholders must begin with a left bracket and close with a right "
+                             u"bracket.  Only 0s are permitted within the brackets. | Critical"_s;
+    const QString noAdmin = u"No Users Found | You must create at least one Admin user because "
+                            u"you have chosen to restrict system access. | Critical"_s;
+    type(u"txtName"_s, u"Ann"_s);
+    clickOption(u"optSecurity1"_s); // so that a good format stops at the next check
+    const struct {
+        QString format, box;
+        int tab; // where the screen stands after the box
+    } cases[] = {{u"0000"_s, brackets, 4}, {u"[abc]"_s, placeholders, 1}, {u"[a0]"_s, brackets, 4},
+                 {u"[0"_s, brackets, 4},   {u"]0["_s, brackets, 4},       {u"yy-[0]"_s, noAdmin, 5},
+                 {u"[00x]"_s, noAdmin, 5}, {u"[0x]yy[a]"_s, noAdmin, 5}};
+    for (const auto &check : cases) {
+        boxes().shown.clear();
+        tabs()->setCurrentIndex(4);
+        type(u"txtNumberFormat"_s, check.format);
+        save();
+        EXPECT_EQ(boxes().lines(), QStringList(check.box)) << check.format.toStdString();
+        EXPECT_EQ(tabs()->currentIndex(), check.tab) << check.format.toStdString();
+    }
+
+    boxes().shown.clear();
+    type(u"txtTax"_s, u"7.5%"_s);
+    save();
+    EXPECT_EQ(boxes().lines(), QStringList(u"Error | Invalid tax rate.  Use format 0.00 and do "
+                                           u"not include the % | Critical"_s));
+    EXPECT_EQ(tabs()->currentIndex(), 2);
+    EXPECT_EQ(storedRow().at(7), u"[00000]"_s);
+
+    // Only ordinary users: still no administrator.
+    usertest::addAccount(u"clerk"_s, u"pw"_s);
+    open();
+    type(u"txtName"_s, u"Ann"_s);
+    clickOption(u"optSecurity1"_s);
+    boxes().shown.clear();
+    save();
+    EXPECT_EQ(boxes().lines(), QStringList(noAdmin));
+    EXPECT_EQ(process().restartCalls, 0);
+}
+
+// Each stored code selects its entry; the pound is stored as 163 and
+// recognised as 164, so a saved pound comes back as the dollar.
+TEST_F(OptionsTest, CurrencyCodesLoadAndSave) {
+    const QList<std::pair<int, int>> loaded = {{0, 0},   {128, 1}, {165, 2}, {36, 3},
+                                               {164, 4}, {-1, 5},  {163, 3}, {999, 3}};
+    for (const auto &[code, entry] : loaded) {
+        company().currencySymbol = static_cast<qint16>(code);
+        company().customCurrency = u"Kr"_s;
+        open();
+        EXPECT_EQ(field<QComboBox>(u"lstCurrencySymbol"_s)->currentIndex(), entry) << code;
+        EXPECT_EQ(field(u"txtSymbol"_s)->text(), code == -1 ? u"Kr"_s : u""_s) << code;
+    }
+    QStringList stored;
+    for (int entry = 0; entry < 6; ++entry) {
+        open();
+        type(u"txtName"_s, u"Ann"_s);
+        field<QComboBox>(u"lstCurrencySymbol"_s)->setCurrentIndex(entry);
+        type(u"txtSymbol"_s, u"Kr"_s); // kept whatever the entry
+        save();
+        stored.append(db::readFirst(u"SELECT currencySymbol || '/' || customCurrency AS c "
+                                    u"FROM tblSystem"_s)
+                          ->text(u"c"_s));
+    }
+    EXPECT_EQ(stored, (QStringList{u"0/Kr"_s, u"128/Kr"_s, u"165/Kr"_s, u"36/Kr"_s, u"163/Kr"_s,
+                                   u"-1/Kr"_s}));
+}
+
+// The port is read after tblSystem and the first-run mark are written: they
+// stay written, the mail settings keep their values, and there is no restart.
+TEST_F(OptionsTest, APortThatIsNoSixteenBitNumberFailsAfterTheRowIsWritten) {
+    fillCompany();
+    open();
+    type(u"txtName"_s, u"New Name"_s);
+    type(u"mailServer"_s, u"other.example"_s);
+    type(u"mailPort"_s, u"40000"_s);
+    save();
+    EXPECT_EQ(boxes().lines(),
+              QStringList(u"Error | An error has occured:  Overflow | Critical"_s));
+    EXPECT_TRUE(screen->isVisible());
+    EXPECT_EQ(storedRow().first(), u"New Name"_s);
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::firstRun), u"no"_s);
+    EXPECT_EQ(MailSettings::stored().mailServer, u"smtp.example"_s);
+    EXPECT_EQ(MailSettings::stored().mailPort, 587);
+    EXPECT_EQ(process().restartCalls, 0);
+}
+
+// Any name holding ".jpg" is taken; the logo changes at once, without a save.
+TEST_F(OptionsTest, LogoImportPreviewAndClear) {
+    const QString notAPicture = tempPath(u"my.jpg.txt"_s);
+    QFile text(notAPicture);
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write("no picture here");
+    text.close();
+    const QString picture = tempPath(u"logo.JPG"_s);
+    QImage red(40, 20, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    ASSERT_TRUE(red.save(picture, "JPG"));
+
+    open();
+    auto *image = field<QLabel>(u"logoImage"_s);
+    EXPECT_FALSE(field<QAbstractButton>(u"cmdImport"_s)->isEnabled());
+    click(*screen, u"removeLogo"_s); // no logo: nothing happens
+    type(u"logoPath"_s, tempPath(u"logo.png"_s));
+    click(*screen, u"cmdImport"_s);
+    EXPECT_EQ(boxes().lines(), QStringList(u"Invalid File | Only .jpg files can be used.  Please "
+                                           u"select a different file. | Exclamation"_s));
+
+    boxes().shown.clear();
+    boxes().texts.append(picture);
+    click(*screen, u"cmdBrowse"_s);
+    EXPECT_EQ(boxes().shown.first().request.title, u"Browse for Images"_s);
+    EXPECT_EQ(boxes().shown.first().request.filter, u"Image Files (*.jpg)"_s);
+    EXPECT_EQ(field(u"logoPath"_s)->text(), picture);
+    click(*screen, u"cmdImport"_s);
+    EXPECT_FALSE(image->pixmap().isNull());
+    EXPECT_EQ(fileBytes(Paths::logoPath()), fileBytes(picture));
+
+    boxes().shown.clear();
+    boxes().answers.append(Dialogs::Answer::No);
+    type(u"logoPath"_s, notAPicture);
+    click(*screen, u"cmdImport"_s); // No keeps the logo
+    EXPECT_EQ(fileBytes(Paths::logoPath()), fileBytes(picture));
+    click(*screen, u"cmdImport"_s);
+    EXPECT_EQ(boxes().lines(),
+              (QStringList{u"Confirm Replace | This will remove your current logo.  Do you want to "
+                           u"proceed? | Question"_s,
+                           u"Confirm Replace | This will remove your current logo.  Do you want to "
+                           u"proceed? | Question"_s,
+                           u"Success | Logo has been imported! | Information"_s}));
+    EXPECT_EQ(fileBytes(Paths::logoPath()), QByteArray("no picture here"));
+    EXPECT_TRUE(image->pixmap().isNull());
+
+    boxes().shown.clear();
+    click(*screen, u"removeLogo"_s);
+    EXPECT_EQ(boxes().lines(), QStringList(u"Confirm | Are you sure you want to delete this logo? "
+                                           u"| Question"_s));
+    EXPECT_FALSE(QFile::exists(Paths::logoPath()));
+    EXPECT_FALSE(saveTool()->isEnabled());
+}
+
+// The accounts change at once: add, edit on a double click, delete by the
+// button or the Delete key, each after Yes.
+TEST_F(OptionsTest, UsersAreAddedEditedAndDeleted) {
+    usertest::addAccount(u"bob"_s, u"pw"_s);
+    const qint32 ann = usertest::addAccount(u"ann"_s, u"pw"_s, 1, /*isAdmin=*/1);
+    company().restrictAccess = true;
+    session().currentUser = std::make_shared<SystemUser>();
+    open();
+    EXPECT_FALSE(tabs()->isTabEnabled(5)); // for administrators only
+    session().currentUser->isAdmin = 1;
+    open();
+    EXPECT_TRUE(tabs()->isTabEnabled(5));
+    tabs()->setCurrentIndex(5);
+    auto *list = field<QTreeWidget>(u"lstUsers"_s);
+    EXPECT_TRUE(field<QRadioButton>(u"optSecurity1"_s)->isChecked());
+    EXPECT_EQ(users(), (QStringList{u"ann | Admin"_s, u"bob | User"_s}));
+
+    const QPoint first = list->visualItemRect(list->topLevelItem(0)).center();
+    const qint32 edited = driveModal<frmUser>(
+        [&] {
+            QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, first);
+            QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, first);
+        },
+        [](frmUser &account) {
+            control<QLineEdit>(account, u"txtUsername"_s)->setText(u"anna"_s);
+            click(account, u"cmdOK"_s);
+            return account.userID;
+        });
+    EXPECT_EQ(edited, ann);
+    driveModal<frmUser>([&] { click(*screen, u"cmdAddUser"_s); },
+                        [](frmUser &account) {
+                            control<QLineEdit>(account, u"txtUsername"_s)->setText(u"cy"_s);
+                            click(account, u"cmdOK"_s);
+                        });
+    EXPECT_EQ(users(), (QStringList{u"anna | Admin"_s, u"bob | User"_s, u"cy | User"_s}));
+
+    list->setCurrentItem(list->topLevelItem(2));
+    boxes().answers.append(Dialogs::Answer::No);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_EQ(users().size(), 3);
+    QTest::keyClick(list, Qt::Key_Delete);
+    EXPECT_EQ(users(), (QStringList{u"anna | Admin"_s, u"bob | User"_s}));
+    EXPECT_EQ(boxes().lines().last(), u"Confirm | Are you sure you want to remove this user "
+                                      u"account? | Question"_s);
+
+    // The last administrator goes; the check still counts the one seen.
+    list->setCurrentItem(list->topLevelItem(0));
+    click(*screen, u"cmdDeleteUser"_s);
+    EXPECT_EQ(users(), QStringList(u"bob | User"_s));
+    type(u"txtName"_s, u"Ann"_s);
+    save();
+    EXPECT_EQ(process().restartCalls, 1);
+}
+
+TEST_F(OptionsTest, TheMainWindowsOptionsToolOpensTheScreen) {
+    frmMain window;
+    driveModal<frmOptions>([&] { window.tool(u"ID_Options"_s)->trigger(); },
+                           [](frmOptions &options) {
+                               EXPECT_EQ(control<QLineEdit>(options, u"txtNumberFormat"_s)->text(),
+                                         u"[00000]"_s);
+                               options.reject();
+                           });
+}
+
+} // namespace
