@@ -35,6 +35,25 @@
     </message>
 </context>
 <context>
+    <name>CompanySetup</name>
+    <message>
+        <source>State/Province</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid property array index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid tax rate.  Use format 0.00 and do not include the %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished">Fehler</translation>
+    </message>
+</context>
+<context>
     <name>CustomerListModel</name>
     <message>
         <source>Account ID</source>
@@ -59,6 +78,72 @@
     <message>
         <source>Phone</source>
         <translation>Telefon</translation>
+    </message>
+</context>
+<context>
+    <name>CustomerMatchModel</name>
+    <message>
+        <source>Account ID</source>
+        <translation type="unfinished">Kundennummer</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Name</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation type="unfinished">Adresse</translation>
+    </message>
+    <message>
+        <source>Address 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation type="unfinished">Ort</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished">Bundesland</translation>
+    </message>
+    <message>
+        <source>Zip</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CustomerTransactionsModel</name>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished">Datum</translation>
+    </message>
+    <message>
+        <source>Receipt #</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished">Gesamt</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Void</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -132,6 +217,29 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>Missing Files</source>
         <translation>Fehlende Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>JournalModel</name>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished">Datum</translation>
+    </message>
+    <message>
+        <source>Receipt No.</source>
+        <translation type="unfinished">Quittungsnr.</translation>
+    </message>
+    <message>
+        <source>Customer Name</source>
+        <translation type="unfinished">Kundenname</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished">Gesamt</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation type="unfinished">Status</translation>
     </message>
 </context>
 <context>
@@ -453,6 +561,188 @@ Bitte installieren Sie Brisko erneut.</translation>
     </message>
 </context>
 <context>
+    <name>frmCustProp</name>
+    <message>
+        <source>Customer Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customer tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;General</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customer:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation type="unfinished">&amp;Name:</translation>
+    </message>
+    <message>
+        <source>You can not change customer information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address&amp;2:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;City:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;tate/Province:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Zip/Postal:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Phone:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;mail:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account Balance:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Starting Balance:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current Balance:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>T&amp;ransactions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transactions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>States and provinces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transaction columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Customer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reassign</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+    <message>
+        <source>An error occured while loading customer information:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error has occured:  </source>
+        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+    </message>
+    <message>
+        <source>An error has occured </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes were not saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished">Fehler</translation>
+    </message>
+    <message>
+        <source>Customer record updated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation type="unfinished">Erfolgreich</translation>
+    </message>
+    <message>
+        <source>ARE YOU SURE YOU WANT TO REMOVE THIS CUSTOMER?  This action will permanently remove the customer and all receipts for this customer.  This action can not be reversed!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Customer and Receipts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An occured while deleting the customer&apos;s receipts.  This process will abort.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The customer record was note deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customer record deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You cannot reassign receipts to the same customer.  Please try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Complete.  %1 record(s) were reassigned.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reassign Receipts</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmCustomSearchProp</name>
+    <message>
+        <source>Custom Search Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation type="unfinished">&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Custom Field %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>frmCustomerList</name>
     <message>
         <source>Customer Search</source>
@@ -520,6 +810,264 @@ Bitte installieren Sie Brisko erneut.</translation>
     </message>
 </context>
 <context>
+    <name>frmItem</name>
+    <message>
+        <source>New Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Item Details:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;ID:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Description:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;xt Desc:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit &amp;Price:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quantity:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation type="unfinished">&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Lookup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>frmItem.loadProducts:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit Line Item</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error has occured: </source>
+        <translation type="unfinished">Ein Fehler ist aufgetreten: </translation>
+    </message>
+    <message>
+        <source>Item ID Not Found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product ID not found.  Do you want to add this product ID to the database and continue?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Product</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid Product ID entered.  Please enter a valid product ID or click Lookup to search.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid Product ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid quantity.  Please enter only digits in this field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid Quantity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quantity must be greater than 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished">Fehler</translation>
+    </message>
+    <message>
+        <source>Invalid Unit Cost.  Please enter a valid amount</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid Unit Cost</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmJournal</name>
+    <message>
+        <source>Receipt Journal</source>
+        <translation type="unfinished">Quittungsjournal</translation>
+    </message>
+    <message>
+        <source>Dates:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;tart Date:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;End Date:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All Dates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search:</source>
+        <translation type="unfinished">Suche:</translation>
+    </message>
+    <message>
+        <source>Customer &amp;Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Receipt Number:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open Balances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation type="unfinished">&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>Custom Fields:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;dd Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;lear Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print Preview</source>
+        <translation type="unfinished">Druckvorschau</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+    <message>
+        <source>Journal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print Receipt</source>
+        <translation type="unfinished">Quittung drucken</translation>
+    </message>
+    <message>
+        <source>Change Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete Receipt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View Receipt</source>
+        <translation type="unfinished">Quittung anzeigen</translation>
+    </message>
+    <message>
+        <source>Receipt columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frmJournal.getReceipts:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom Fields:  (SET)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom search fields have been cleared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error has occured:  </source>
+        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+    </message>
+    <message>
+        <source>Access Denied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your account does not have rights to delete a receipt.  Please see your system administrator.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this receipt?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation type="unfinished">Bestätigen</translation>
+    </message>
+    <message>
+        <source>Receipt has been deleted!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Are you sure you want to void this receipt?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not void receipt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt has been voided!</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>frmLogin</name>
     <message>
         <source>Brisko Login</source>
@@ -560,6 +1108,65 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>&amp;Login</source>
         <translation>&amp;Anmelden</translation>
+    </message>
+</context>
+<context>
+    <name>frmLookup</name>
+    <message>
+        <source>Product Lookup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product Name or ID:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product Name or ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Search</source>
+        <translation type="unfinished">&amp;Suchen</translation>
+    </message>
+    <message>
+        <source>* To return all products, leave field empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Products Found:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Products Found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+    <message>
+        <source>SKU</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product Desc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error has occured: </source>
+        <translation type="unfinished">Ein Fehler ist aufgetreten: </translation>
+    </message>
+    <message>
+        <source>No products found</source>
+        <translation type="unfinished">Keine Artikel gefunden</translation>
+    </message>
+    <message>
+        <source>Search Results</source>
+        <translation type="unfinished">Suchergebnisse</translation>
     </message>
 </context>
 <context>
@@ -869,6 +1476,598 @@ Bitte installieren Sie Brisko erneut.</translation>
     </message>
 </context>
 <context>
+    <name>frmNewCompany</name>
+    <message>
+        <source>New Company Setup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Welcome</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Welcome to Brisko Desk!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>font-size: 16pt; font-weight: bold;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This wizard will help you set up your company information and other options.  You can always changes these settings  by going to File-&gt;Options from the main screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use &amp;Shared Database</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Next  &gt;&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Company Information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Company &amp;Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;ddress 2:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;City:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;State/Province:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Zip/Postal:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Phone:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;&lt; &amp;Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default &amp;Payment Type:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default Receipt Type:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pr&amp;oducts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ervices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tax Rate:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0.00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Security:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Username/Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open S&amp;ystem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default User&amp;name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pass&amp;word:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Finish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error has occured </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You must complete this process to use Brisko.  Are you sure you want to cancel this process?  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abort Wizard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please enter the name of your company.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing Company Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please enter a default username and password for the administrator.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Missing Admin Username/Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The default user account has been created.  You will need to log into Brisko with this account where you can set up additional user accounts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Admin Account Created</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmOptions</name>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished">Optionen</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Company &amp;Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A&amp;ddress 2:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;City:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;State/Province:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Zip/Postal:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Phone:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt &amp;Number Format:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Example:  mmyy [0000]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tagline:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use 3&quot; POS &amp;Receipt Printer Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide &amp;Discount field</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use customer a&amp;uto-complete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide account &amp;balance on print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Require customer address &amp;information</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restart receipt numbering &amp;each year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide sales ta&amp;x on print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;&amp;Other&quot; Field Name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tax Rate:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tax Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tax is &amp;not charged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payment Type:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payment Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt Type:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Products</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Services</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Currency Symbol:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Currency Symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom S&amp;ymbol:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current Logo:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current Logo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logo &amp;File:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Clear Logo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size your logo to 360 x 360</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom Fields:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field &amp;1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field &amp;2:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field &amp;3:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field &amp;4:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field &amp;5:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Field &amp;6:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use caution when changing custom fields as this will affect previously created receipts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Program Access:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open System</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Username/Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>U&amp;sers:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Users</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Username</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Access</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add User</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete User</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outgoing Mail (SMTP) Server:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Se&amp;rver:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Email:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;ort:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>110</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires &amp;Authentication</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Username:</source>
+        <translation type="unfinished">&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation type="unfinished">&amp;Kennwort:</translation>
+    </message>
+    <message>
+        <source>Requires SSL or &amp;TLS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;a href=&quot;configure-mail-server-settings&quot;&gt;How do I configure my email settings?&lt;/a&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How do I configure my email settings?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Changes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+    <message>
+        <source>No symbol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Euro </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Japan </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>USA </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UK Pound </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error has occured:  </source>
+        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+    </message>
+    <message>
+        <source>Syntax:
+mm = Month
+dd = Day
+yy = Year(2), yyyy = Year (4)
+0 = digit placeholder, place within []
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Admin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options have been changed.  Brisko Desk will now restart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multi-User</source>
+        <translation type="unfinished">Mehrbenutzer</translation>
+    </message>
+    <message>
+        <source>Receipt Number Format is a required field.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished">Fehler</translation>
+    </message>
+    <message>
+        <source>Invalid receipt number format.  The format must contain at least one digit placeholder within brackets.  
+Example:  yy-[00]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit placeholders are not properly formatted.  Digit placeholders must begin with a left bracket and close with a right bracket.  Only 0s are permitted within the brackets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You must create at least one Admin user because you have chosen to restrict system access.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Users Found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Browse for Images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Image Files (*.jpg)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only .jpg files can be used.  Please select a different file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This will remove your current logo.  Do you want to proceed?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confirm Replace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logo has been imported!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation type="unfinished">Erfolgreich</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete this logo?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation type="unfinished">Bestätigen</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove this user account?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>frmPayMethod</name>
     <message>
         <source>Payment Method Admin</source>
@@ -953,6 +2152,37 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>In Use</source>
         <translation>In Verwendung</translation>
+    </message>
+</context>
+<context>
+    <name>frmPrintOption</name>
+    <message>
+        <source>Print &amp; Email</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Email &amp;Address:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Email</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Continue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt Number </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> has beeen saved.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1104,6 +2334,403 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>Search Results</source>
         <translation>Suchergebnisse</translation>
+    </message>
+</context>
+<context>
+    <name>frmReceipt</name>
+    <message>
+        <source>New Receipt</source>
+        <translation type="unfinished">Neue Quittung</translation>
+    </message>
+    <message>
+        <source>Receipt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transaction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customer:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation type="unfinished">&amp;Name:</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add&amp;ress:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Address&amp;2:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;City:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;State/Province:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Posta&amp;l:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;hone Number:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Email:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ID:</source>
+        <translation type="unfinished">ID:</translation>
+    </message>
+    <message>
+        <source>Balance:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>0.00</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt Type:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prod&amp;uct Receipt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Service Recei&amp;pt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account Pay&amp;ment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Da&amp;te:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Products:</source>
+        <translation type="unfinished">Artikel:</translation>
+    </message>
+    <message>
+        <source>Products</source>
+        <translation type="unfinished">Artikel</translation>
+    </message>
+    <message>
+        <source>Qty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit Price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unit Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ext Description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add Product</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One or more product(s) required</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Service Provided:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Services Quick Pick List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amount Due:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payment:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pa&amp;yment Type:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payment Description:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recei&amp;ved By:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Void Reason:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sub Total:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tax (0.000%):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ta&amp;x Exempt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disc&amp;ount:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rece&amp;ived:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Due:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom Fields</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;&amp; New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;&amp; Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matching customers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear customer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print Preview</source>
+        <translation type="unfinished">Druckvorschau</translation>
+    </message>
+    <message>
+        <source>Edit Receipt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Void Receipt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Product columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tax (</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error has occured:  </source>
+        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+    </message>
+    <message>
+        <source>Custom field %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load Service List</source>
+        <translation type="unfinished">Leistungsliste laden</translation>
+    </message>
+    <message>
+        <source>States and provinces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comments:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account Balance:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check #:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payment Desc:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not retrieve service description.</source>
+        <translation type="unfinished">Die Leistungsbeschreibung konnte nicht abgerufen werden.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation type="unfinished">Fehler</translation>
+    </message>
+    <message>
+        <source>Receipt </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> VOID - VOID - VOID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error has occured: </source>
+        <translation type="unfinished">Ein Fehler ist aufgetreten: </translation>
+    </message>
+    <message>
+        <source>Customer columns</source>
+        <translation type="unfinished">Spalten der Kundenliste</translation>
+    </message>
+    <message>
+        <source>An error occured while searching for customers:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error occured while loading customer information:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid dollar amount.  Use format 0.00</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmReports</name>
+    <message>
+        <source>Report Manager</source>
+        <translation type="unfinished">Berichtsverwaltung</translation>
+    </message>
+    <message>
+        <source>Reports:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Run Report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished">&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>An error has occured:  </source>
+        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+    </message>
+    <message>
+        <source>Load Reports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>frmReprint</name>
+    <message>
+        <source>Reprint Receipt</source>
+        <translation type="unfinished">Quittung erneut drucken</translation>
+    </message>
+    <message>
+        <source>&amp;Last Receipt Entered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Specific Receipt Number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt Number:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Display Only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished">&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>An error has occured:  </source>
+        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+    </message>
+    <message>
+        <source>No receipts were found in the database.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print Receipt</source>
+        <translation type="unfinished">Quittung drucken</translation>
+    </message>
+    <message>
+        <source>Receipt number entered was not found.  Please try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown Receipt Number</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1266,6 +2893,97 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>Ac&amp;tive</source>
         <translation>Akt&amp;iv</translation>
+    </message>
+</context>
+<context>
+    <name>frmVoid</name>
+    <message>
+        <source>Change Receipt Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt Number:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Retrieve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current Status:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New Status:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation type="unfinished">&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>This year&apos;s receipts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Statuses</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation type="unfinished">Auswählen</translation>
+    </message>
+    <message>
+        <source>Issued</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Void</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frmJournal.getReceipts:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error occured while retrieving the receipt information:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt number not found.  Please try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt Not Found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Void Reason</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Void Receipt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An error occured while updating the receipt status:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt status has been updated for receipt number </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Receipt status update failed for receipt number </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation type="unfinished">Erfolgreich</translation>
     </message>
 </context>
 <context>
