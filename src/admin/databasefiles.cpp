@@ -16,10 +16,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace modMain {
 namespace {
 
-QString tr(const char *context, const char *text) {
-    return QCoreApplication::translate(context, text);
-}
-
 // A folder of the data location, or the chooser's own default when it is missing.
 QString existingFolder(const QString &name) {
     const QString folder = Paths::dataFolder() + u'/' + name;
@@ -29,27 +25,30 @@ QString existingFolder(const QString &name) {
 // The backup file the user names; empty when the routine ends.
 QString chooseBackupTarget(const QString &source) {
     Dialogs::FileRequest request;
-    request.title = tr("backupDatabase", "Backup Filename");
+    request.title = QCoreApplication::translate("backupDatabase", "Backup Filename");
     request.folder = existingFolder(u"backups"_s);
-    request.filter = tr("backupDatabase", "Brisko Backup Files (*.db)");
+    request.filter = QCoreApplication::translate("backupDatabase", "Brisko Backup Files (*.db)");
     for (;;) {
         const QString chosen = dialogs().saveFile(request);
         if (chosen.isEmpty())
             return {};
         if (chosen == source) {
-            dialogs().message(tr("backupDatabase", "You can not use the name bdesk.db.  Please "
-                                                   "enter a different name for your backup file."),
-                              tr("backupDatabase", "Error"), Dialogs::Icon::Critical);
+            dialogs().message(QCoreApplication::translate(
+                                  "backupDatabase", "You can not use the name bdesk.db.  Please "
+                                                    "enter a different name for your backup file."),
+                              QCoreApplication::translate("backupDatabase", "Error"),
+                              Dialogs::Icon::Critical);
             continue;
         }
         if (!QFileInfo::exists(chosen))
             return chosen;
         // The old file is replaced only once the new copy is whole.
         const auto answer = dialogs().message(
-            tr("backupDatabase", "%1 already exists.  Do you wish to overwrite this file?")
+            QCoreApplication::translate("backupDatabase",
+                                        "%1 already exists.  Do you wish to overwrite this file?")
                 .arg(chosen),
-            tr("backupDatabase", "Existing Backup File"), Dialogs::Icon::None,
-            Dialogs::Buttons::YesNoCancel);
+            QCoreApplication::translate("backupDatabase", "Existing Backup File"),
+            Dialogs::Icon::None, Dialogs::Buttons::YesNoCancel);
         if (answer == Dialogs::Answer::Yes)
             return chosen;
         if (answer == Dialogs::Answer::Cancel)
@@ -61,9 +60,10 @@ QString chooseBackupTarget(const QString &source) {
 QString chooseRestoreSource(const QString &target) {
     static QString lastChosen; // the chooser offers the name used last time
     Dialogs::FileRequest request;
-    request.title = tr("restoreDatabase", "Restore Database");
+    request.title = QCoreApplication::translate("restoreDatabase", "Restore Database");
     request.folder = existingFolder(u"backup"_s);
-    request.filter = tr("restoreDatabase", "Brisko Backup Files (*.db);;All Files (*)");
+    request.filter =
+        QCoreApplication::translate("restoreDatabase", "Brisko Backup Files (*.db);;All Files (*)");
     for (;;) {
         request.fileName = lastChosen;
         const QString chosen = dialogs().openFile(request);
@@ -71,27 +71,32 @@ QString chooseRestoreSource(const QString &target) {
             return {};
         lastChosen = QFileInfo(chosen).fileName();
         if (chosen == target) {
-            dialogs().message(tr("restoreDatabase",
-                                 "You can not restore bdesk.db as it is the current database "
-                                 "file.  Please choose a backup file."),
-                              tr("restoreDatabase", "Error"), Dialogs::Icon::Critical);
+            dialogs().message(
+                QCoreApplication::translate(
+                    "restoreDatabase", "You can not restore bdesk.db as it is the current database "
+                                       "file.  Please choose a backup file."),
+                QCoreApplication::translate("restoreDatabase", "Error"), Dialogs::Icon::Critical);
             continue;
         }
         if (DatabaseCopy::isBriskoDatabase(chosen))
             return chosen;
-        dialogs().message(tr("restoreDatabase", "%1 is not a Brisko database, or it is damaged.  "
-                                                "Please choose a backup file.")
+        dialogs().message(QCoreApplication::translate(
+                              "restoreDatabase", "%1 is not a Brisko database, or it is damaged.  "
+                                                 "Please choose a backup file.")
                               .arg(chosen),
-                          tr("restoreDatabase", "Error"), Dialogs::Icon::Critical);
+                          QCoreApplication::translate("restoreDatabase", "Error"),
+                          Dialogs::Icon::Critical);
     }
 }
 
 bool confirmRestore() {
     const auto answer = dialogs().message(
-        tr("restoreDatabase", "Warning!  You are about to replace the contents of your current "
-                              "database.  This action CAN NOT BE REVERSED.") +
-            u'\n' + tr("restoreDatabase", "Are you sure you wish to continue?"),
-        tr("restoreDatabase", "Restore Database"), Dialogs::Icon::None,
+        QCoreApplication::translate(
+            "restoreDatabase", "Warning!  You are about to replace the contents of your current "
+                               "database.  This action CAN NOT BE REVERSED.") +
+            u'\n' +
+            QCoreApplication::translate("restoreDatabase", "Are you sure you wish to continue?"),
+        QCoreApplication::translate("restoreDatabase", "Restore Database"), Dialogs::Icon::None,
         Dialogs::Buttons::YesNoCancel);
     return answer == Dialogs::Answer::Yes;
 }
@@ -104,9 +109,9 @@ QString errorText(const BriskoError &error) {
 
 QString openDatabaseDialog() {
     Dialogs::FileRequest request;
-    request.title = tr("openDatabaseDialog", "Open Database");
+    request.title = QCoreApplication::translate("openDatabaseDialog", "Open Database");
     request.folder = session().dbPath;
-    request.filter = tr("openDatabaseDialog", "Database Files (*.db)");
+    request.filter = QCoreApplication::translate("openDatabaseDialog", "Database Files (*.db)");
     return dialogs().openFile(request);
 }
 
@@ -119,14 +124,17 @@ void backupDatabase() {
         db::closeConnection();
         DatabaseCopy::copy(source, target);
     } catch (const BriskoError &error) {
-        dialogs().message(tr("backupDatabase", "Error occured during the database backup.  "
-                                               "Error: ") +
+        dialogs().message(QCoreApplication::translate("backupDatabase",
+                                                      "Error occured during the database backup.  "
+                                                      "Error: ") +
                               errorText(error),
-                          tr("backupDatabase", "Error"), Dialogs::Icon::Critical);
+                          QCoreApplication::translate("backupDatabase", "Error"),
+                          Dialogs::Icon::Critical);
         return;
     }
-    dialogs().message(tr("backupDatabase", "Backup operation completed."),
-                      tr("backupDatabase", "Complete"), Dialogs::Icon::Information);
+    dialogs().message(QCoreApplication::translate("backupDatabase", "Backup operation completed."),
+                      QCoreApplication::translate("backupDatabase", "Complete"),
+                      Dialogs::Icon::Information);
 }
 
 void restoreDatabase() {
@@ -138,24 +146,28 @@ void restoreDatabase() {
             return;
         if (!confirmRestore()) {
             session().restoreCompleted = false;
-            dialogs().message(tr("restoreDatabase", "Restore operation was canceled."),
-                              tr("restoreDatabase", "Restored Canceled"),
-                              Dialogs::Icon::Information);
+            dialogs().message(
+                QCoreApplication::translate("restoreDatabase", "Restore operation was canceled."),
+                QCoreApplication::translate("restoreDatabase", "Restored Canceled"),
+                Dialogs::Icon::Information);
             return;
         }
         db::closeConnection();
         QDir().mkpath(QFileInfo(target).absolutePath());
         DatabaseCopy::copy(source, target);
     } catch (const BriskoError &error) {
-        dialogs().message(tr("restoreDatabase", "Could not restore database.  Error: ") +
-                              errorText(error),
-                          tr("restoreDatabase", "Error"), Dialogs::Icon::Critical);
+        dialogs().message(
+            QCoreApplication::translate("restoreDatabase", "Could not restore database.  Error: ") +
+                errorText(error),
+            QCoreApplication::translate("restoreDatabase", "Error"), Dialogs::Icon::Critical);
         return;
     }
     session().restoreCompleted = true;
-    dialogs().message(tr("restoreDatabase", "Restore operation completed.  Brisko must now be "
-                                            "restarted."),
-                      tr("restoreDatabase", "Restore Complete"), Dialogs::Icon::Information);
+    dialogs().message(QCoreApplication::translate(
+                          "restoreDatabase", "Restore operation completed.  Brisko must now be "
+                                             "restarted."),
+                      QCoreApplication::translate("restoreDatabase", "Restore Complete"),
+                      Dialogs::Icon::Information);
 }
 
 } // namespace modMain

@@ -2,7 +2,11 @@
 
 #include "platform/briskoerror.h"
 
+#include <QAction>
+#include <QLayout>
 #include <QScreen>
+#include <QStyle>
+#include <QToolBar>
 
 ModalScreen::ModalScreen(QWidget *parent)
     : QDialog(parent) {}
@@ -73,4 +77,28 @@ void ModalScreen::centre() {
     QRect frame = frameGeometry();
     frame.moveCenter(area.center());
     move(frame.topLeft());
+}
+
+QToolBar *ModalScreen::addToolBar(QLayout *layout) {
+    auto *bar = new QToolBar(this);
+    bar->setObjectName(QStringLiteral("SSActiveToolBars1"));
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    layout->setMenuBar(bar);
+    return bar;
+}
+
+QAction *ModalScreen::addTool(QToolBar *bar, const QString &id, const QString &text,
+                              const QIcon &icon) {
+    QAction *tool = bar->addAction(icon, text);
+    tool->setObjectName(id);
+    bar->widgetForAction(tool)->setAccessibleName(text);
+    return tool;
+}
+
+QAction *ModalScreen::addCloseTool(QToolBar *bar) {
+    QAction *close = addTool(bar, QStringLiteral("ID_Close"), tr("Close"),
+                             QIcon::fromTheme(QStringLiteral("window-close"),
+                                              style()->standardIcon(QStyle::SP_DialogCloseButton)));
+    connect(close, &QAction::triggered, this, &ModalScreen::reject);
+    return close;
 }

@@ -6,6 +6,10 @@
 #include <functional>
 
 class BriskoError;
+class QAction;
+class QIcon;
+class QLayout;
+class QToolBar;
 
 // The one shape of a Brisko dialog. A new screen follows frmUser:
 //
@@ -48,6 +52,15 @@ protected:
     bool runCommand(const QString &lead, const std::function<void()> &body);
     // The same, for a command whose failure box has a title of its own.
     bool runCommand(const QString &lead, const QString &title, const std::function<void()> &body);
+
+    // A screen's tool bar, `SSActiveToolBars1`, with text beside the icons,
+    // set above everything else in `layout`.
+    QToolBar *addToolBar(QLayout *layout);
+    // A tool on `bar`: its id is its objectName, its text its accessible name.
+    static QAction *addTool(QToolBar *bar, const QString &id, const QString &text,
+                            const QIcon &icon = {});
+    // The "Close" tool a screen's bar ends with; it closes the screen as Escape does.
+    QAction *addCloseTool(QToolBar *bar);
 
     void showEvent(QShowEvent *event) override;
 

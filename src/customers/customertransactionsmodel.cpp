@@ -10,88 +10,67 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const char *const kHeaders[CustomerTransactionsModel::ColumnCount] = {
-    "",
-    QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Date"),
-    QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Receipt #"),
-    QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Total"),
-    QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Balance"),
-    QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Type"),
-    "",
+constexpr Qt::Alignment kMoney = Qt::AlignRight | Qt::AlignVCenter;
+
+constexpr RecordListBase::Column kColumns[CustomerTransactionsModel::ColumnCount] = {
+    {""},
+    {QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Date")},
+    {QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Receipt #")},
+    {QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Total"), kMoney},
+    {QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Balance"), kMoney},
+    {QT_TRANSLATE_NOOP("CustomerTransactionsModel", "Type")},
+    {""},
 };
 
 const QString kMoneyFormat = u"#,###.00"_s;
 
-bool isMoney(int column) {
-    return column == CustomerTransactionsModel::TotalColumn ||
-           column == CustomerTransactionsModel::BalanceColumn;
-}
-
 } // namespace
+
+CustomerTransactionsModel::CustomerTransactionsModel(QObject *parent)
+    : RecordListModel(kColumns, parent) {}
 
 void CustomerTransactionsModel::load(const db::Snapshot &rows) {
     beginResetModel();
     const auto endReset = qScopeGuard([this] { endResetModel(); });
-    m_rows.clear();
+    m_records.clear();
     for (const db::Row &row : rows) {
         const qint16 type = row.int16(u"receiptType"_s);
         // A payment's total is what came in; a sale's is its amount due alone.
         const Currency total =
             row.currency(type == Receipt::AccountPayment ? u"amountReceived"_s : u"amountDue"_s);
-        m_rows.append({.receiptID = row.int32(u"receiptID"_s),
-                       .date = row.dateTime(u"receiptDate"_s),
-                       .number = row.text(u"receiptNumber"_s),
-                       .total = total,
-                       // Rows of older releases may have no balance.
-                       .balance = row.isNull(u"accountBalance"_s)
-                                      ? Currency()
-                                      : row.currency(u"accountBalance"_s),
-                       .sale = type == Receipt::ProductReceipt || type == Receipt::ServiceReceipt,
-                       .isVoid = row.int16(u"status"_s) == Receipt::Void});
+        m_records.append(
+            {.receiptID = row.int32(u"receiptID"_s),
+             .date = row.dateTime(u"receiptDate"_s),
+             .number = row.text(u"receiptNumber"_s),
+             .total = total,
+             // Rows of older releases may have no balance.
+             .balance =
+                 row.isNull(u"accountBalance"_s) ? Currency() : row.currency(u"accountBalance"_s),
+             .sale = type == Receipt::ProductReceipt || type == Receipt::ServiceReceipt,
+             .isVoid = row.int16(u"status"_s) == Receipt::Void});
     }
 }
 
 QList<qint32> CustomerTransactionsModel::checkedReceiptIDs() const {
     QList<qint32> keys;
-    for (const Transaction &row : m_rows) {
+    for (const Transaction &row : m_records) {
         if (row.checked)
             keys.append(row.receiptID);
     }
     return keys;
 }
 
-int CustomerTransactionsModel::rowCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : int(m_rows.size());
-}
-
-int CustomerTransactionsModel::columnCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant CustomerTransactionsModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Transaction &row = m_rows.at(index.row());
-    switch (role) {
-    case Qt::DisplayRole:
-        return text(row, index.column());
-    case Qt::CheckStateRole:
-        return index.column() == CheckColumn ? QVariant(row.checked ? Qt::Checked : Qt::Unchecked)
-                                             : QVariant();
-    case Qt::TextAlignmentRole:
-        return isMoney(index.column()) ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
-    case ReceiptIDRole:
-        return row.receiptID;
-    default:
-        return {};
-    }
+QVariant CustomerTransactionsModel::otherData(const Transaction &row, int column, int role) const {
+    if (role == Qt::CheckStateRole && column == CheckColumn)
+        return row.checked ? Qt::Checked : Qt::Unchecked;
+    return {};
 }
 
 bool CustomerTransactionsModel::setData(const QModelIndex &index, const QVariant &value, int role) {
     if (role != Qt::CheckStateRole || index.column() != CheckColumn ||
         !checkIndex(index, CheckIndexOption::IndexIsValid))
         return false;
-    m_rows[index.row()].checked = value.toInt() == Qt::Checked;
+    m_records[index.row()].checked = value.toInt() == Qt::Checked;
     Q_EMIT dataChanged(index, index, {Qt::CheckStateRole});
     return true;
 }
@@ -103,18 +82,7 @@ Qt::ItemFlags CustomerTransactionsModel::flags(const QModelIndex &index) const {
     return flags;
 }
 
-QVariant CustomerTransactionsModel::headerData(int section, Qt::Orientation orientation,
-                                               int role) const {
-    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
-        return {};
-    if (role == Qt::DisplayRole)
-        return tr(kHeaders[section]);
-    if (role == Qt::TextAlignmentRole && isMoney(section))
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-    return {};
-}
-
-QString CustomerTransactionsModel::text(const Transaction &row, int column) {
+QString CustomerTransactionsModel::text(const Transaction &row, int column) const {
     switch (column) {
     case DateColumn:
         return Runtime::formatDate(row.date.date(), u"mm/dd/yyyy"_s);

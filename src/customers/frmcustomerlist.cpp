@@ -51,16 +51,7 @@ frmCustomerList::frmCustomerList(QWidget *parent)
 frmCustomerList::~frmCustomerList() = default;
 
 void frmCustomerList::createToolBar() {
-    auto *bar = new QToolBar(this);
-    bar->setObjectName(u"SSActiveToolBars1"_s);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    const QIcon icon =
-        QIcon::fromTheme(u"window-close"_s, style()->standardIcon(QStyle::SP_DialogCloseButton));
-    QAction *close = bar->addAction(icon, tr("Close"));
-    close->setObjectName(u"ID_Close"_s);
-    connect(close, &QAction::triggered, this, &frmCustomerList::reject);
-    bar->widgetForAction(close)->setAccessibleName(close->text());
-    ui->layoutMain->setMenuBar(bar);
+    addCloseTool(addToolBar(ui->layoutMain));
 }
 
 void frmCustomerList::prepareList() {
@@ -123,7 +114,7 @@ void frmCustomerList::fillList(const QString &text, SearchType searchType) {
     m_customers->clear();
     QList<CustomerListRow> rows;
     const auto show = qScopeGuard([&] {
-        m_customers->setRows(std::move(rows));
+        m_customers->setRecords(std::move(rows));
         showHits();
     });
     db::forEachRow(sql, params,
@@ -150,7 +141,7 @@ void frmCustomerList::showHits() {
 }
 
 void frmCustomerList::openCustomer(const QModelIndex &index) {
-    const qint32 payeeID = m_customers->payeeIDAt(index.row());
+    const qint32 payeeID = m_customers->keyAt(index.row());
     if (payeeID == 0)
         return;
     if (pickMode) {

@@ -38,7 +38,7 @@ void frmCustPop::loadCustomers() {
         reject();
         return;
     }
-    m_customers->setRows(std::move(rows));
+    m_customers->setRecords(std::move(rows));
 }
 
 // With no entry selected there is nothing to hand back, and the list stays.
@@ -46,6 +46,6 @@ void frmCustPop::selectCustomer() {
     const QModelIndexList selected = ui->lstCustomers->selectionModel()->selectedIndexes();
     if (selected.isEmpty())
         return;
-    selectedID = m_customers->payeeIDAt(selected.first().row());
+    selectedID = m_customers->keyAt(selected.first().row());
     accept();
 }

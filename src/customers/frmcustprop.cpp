@@ -122,29 +122,17 @@ frmCustProp::frmCustProp(QWidget *parent)
 frmCustProp::~frmCustProp() = default;
 
 void frmCustProp::createToolBar() {
-    auto *bar = new QToolBar(this);
-    bar->setObjectName(u"SSActiveToolBars1"_s);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    auto addTool = [&](const QString &id, const QString &text, const QIcon &icon) {
-        QAction *tool = bar->addAction(icon, text);
-        tool->setObjectName(id);
-        bar->widgetForAction(tool)->setAccessibleName(text);
-        return tool;
-    };
+    QToolBar *bar = addToolBar(ui->layoutMain);
     m_save = addTool(
-        u"ID_SaveChanges"_s, tr("Save Changes"),
+        bar, u"ID_SaveChanges"_s, tr("Save Changes"),
         QIcon::fromTheme(u"document-save"_s, style()->standardIcon(QStyle::SP_DialogSaveButton)));
-    m_delete =
-        addTool(u"ID_DeleteCustomer"_s, tr("Delete Customer"), QIcon::fromTheme(u"edit-delete"_s));
-    m_reassign = addTool(u"ID_Reassign"_s, tr("Reassign"), QIcon::fromTheme(u"go-jump"_s));
-    QAction *close = addTool(
-        u"ID_Close"_s, tr("Close"),
-        QIcon::fromTheme(u"window-close"_s, style()->standardIcon(QStyle::SP_DialogCloseButton)));
+    m_delete = addTool(bar, u"ID_DeleteCustomer"_s, tr("Delete Customer"),
+                       QIcon::fromTheme(u"edit-delete"_s));
+    m_reassign = addTool(bar, u"ID_Reassign"_s, tr("Reassign"), QIcon::fromTheme(u"go-jump"_s));
+    addCloseTool(bar);
     connect(m_save, &QAction::triggered, this, &frmCustProp::saveCustomer);
     connect(m_delete, &QAction::triggered, this, &frmCustProp::deleteCustomer);
     connect(m_reassign, &QAction::triggered, this, &frmCustProp::reassign);
-    connect(close, &QAction::triggered, this, &frmCustProp::reject);
-    ui->layoutMain->setMenuBar(bar);
 }
 
 // Typing checks the customer; picking a state from the list and typing an

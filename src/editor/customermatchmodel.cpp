@@ -2,65 +2,38 @@
 
 namespace {
 
-QString textOf(const CustomerMatch &row, int column) {
+constexpr RecordListBase::Column kColumns[CustomerMatchModel::ColumnCount] = {
+    {QT_TRANSLATE_NOOP("CustomerMatchModel", "Account ID")},
+    {QT_TRANSLATE_NOOP("CustomerMatchModel", "Name")},
+    {QT_TRANSLATE_NOOP("CustomerMatchModel", "Address")},
+    {QT_TRANSLATE_NOOP("CustomerMatchModel", "Address 2")},
+    {QT_TRANSLATE_NOOP("CustomerMatchModel", "City")},
+    {QT_TRANSLATE_NOOP("CustomerMatchModel", "State")},
+    {QT_TRANSLATE_NOOP("CustomerMatchModel", "Zip")},
+};
+
+} // namespace
+
+CustomerMatchModel::CustomerMatchModel(QObject *parent)
+    : RecordListModel(kColumns, parent) {}
+
+QString CustomerMatchModel::text(const CustomerMatch &row, int column) const {
     switch (column) {
-    case CustomerMatchModel::AccountID:
+    case AccountID:
         return QString::number(row.payeeID);
-    case CustomerMatchModel::Name:
+    case Name:
         return row.payeeName;
-    case CustomerMatchModel::Address:
+    case Address:
         return row.address1;
-    case CustomerMatchModel::Address2:
+    case Address2:
         return row.address2;
-    case CustomerMatchModel::City:
+    case City:
         return row.city;
-    case CustomerMatchModel::State:
+    case State:
         return row.state;
-    case CustomerMatchModel::Zip:
+    case Zip:
         return row.zip;
     default:
         return {};
     }
-}
-
-} // namespace
-
-void CustomerMatchModel::setRows(QList<CustomerMatch> rows) {
-    beginResetModel();
-    m_rows = std::move(rows);
-    endResetModel();
-}
-
-qint32 CustomerMatchModel::payeeIDAt(int row) const {
-    return row >= 0 && row < m_rows.size() ? m_rows.at(row).payeeID : 0;
-}
-
-int CustomerMatchModel::rowCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : int(m_rows.size());
-}
-
-int CustomerMatchModel::columnCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant CustomerMatchModel::data(const QModelIndex &index, int role) const {
-    if (!index.isValid())
-        return {};
-    const CustomerMatch &row = m_rows.at(index.row());
-    if (role == Qt::DisplayRole)
-        return textOf(row, index.column());
-    if (role == Qt::UserRole)
-        return row.payeeID;
-    return {};
-}
-
-QVariant CustomerMatchModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return QAbstractTableModel::headerData(section, orientation, role);
-    static const char *const headers[ColumnCount] = {
-        QT_TR_NOOP("Account ID"), QT_TR_NOOP("Name"), QT_TR_NOOP("Address"),
-        QT_TR_NOOP("Address 2"),  QT_TR_NOOP("City"), QT_TR_NOOP("State"),
-        QT_TR_NOOP("Zip"),
-    };
-    return section >= 0 && section < ColumnCount ? tr(headers[section]) : QVariant();
 }

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QAbstractTableModel>
-#include <QList>
-#include <QString>
+#include "app/recordlistmodel.h"
 
 // One customer whose name begins with what was typed in the receipt editor.
 struct CustomerMatch {
@@ -15,27 +13,17 @@ struct CustomerMatch {
     QString zip{};
 };
 
-// The matches under the editor's name field, read-only, each row keeping
-// its customer's key under Qt::UserRole. Rows are handed over whole, so
+// The matches under the editor's name field. Rows are handed over whole, so
 // that a short prefix over many customers still fills at once.
-class CustomerMatchModel : public QAbstractTableModel {
+class CustomerMatchModel : public RecordListModel<CustomerMatch> {
     Q_OBJECT
 
 public:
     enum Column { AccountID, Name, Address, Address2, City, State, Zip, ColumnCount };
 
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit CustomerMatchModel(QObject *parent = nullptr);
 
-    void setRows(QList<CustomerMatch> rows);
-    // The key of the customer in `row`, 0 when there is no such row.
-    qint32 payeeIDAt(int row) const;
-
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation,
-                        int role = Qt::DisplayRole) const override;
-
-private:
-    QList<CustomerMatch> m_rows;
+protected:
+    QString text(const CustomerMatch &row, int column) const override;
+    qint32 key(const CustomerMatch &row) const override { return row.payeeID; }
 };

@@ -93,7 +93,7 @@ void frmReceipt::searchCustomers(const QString &text) {
         db::forEachRow(kMatchStatement, {db::escapeLike(text) + u'%'},
                        [&rows](const db::Cells &cells) { rows.append(matchOf(cells)); });
     });
-    m_matches->setRows(std::move(rows));
+    m_matches->setRecords(std::move(rows));
     if (!searched)
         return;
     if (m_matches->rowCount() > 0) {
@@ -110,7 +110,7 @@ void frmReceipt::searchCustomers(const QString &text) {
 void frmReceipt::pickCustomer() {
     if (m_matches->rowCount() > 0) {
         const QModelIndex current = ui->lstCustomerMatch->currentIndex();
-        customerID = m_matches->payeeIDAt(current.isValid() ? current.row() : 0);
+        customerID = m_matches->keyAt(current.isValid() ? current.row() : 0);
         runCommand(tr("An error occured while loading customer information:  "), [this] {
             loadCustomer();
             if (customerID > 0)

@@ -56,26 +56,14 @@ frmJournal::frmJournal(QWidget *parent)
 frmJournal::~frmJournal() = default;
 
 void frmJournal::createToolBar() {
-    auto *bar = new QToolBar(this);
-    bar->setObjectName(u"SSActiveToolBars1"_s);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    auto addTool = [&](const QString &id, const QString &text, const QIcon &icon) {
-        QAction *tool = bar->addAction(icon, text);
-        tool->setObjectName(id);
-        bar->widgetForAction(tool)->setAccessibleName(text);
-        return tool;
-    };
-    m_print = addTool(u"ID_Print"_s, tr("Print"), QIcon::fromTheme(u"document-print"_s));
-    m_printPreview = addTool(u"ID_PrintPreview"_s, tr("Print Preview"),
+    QToolBar *bar = addToolBar(ui->layoutMain);
+    m_print = addTool(bar, u"ID_Print"_s, tr("Print"), QIcon::fromTheme(u"document-print"_s));
+    m_printPreview = addTool(bar, u"ID_PrintPreview"_s, tr("Print Preview"),
                              QIcon::fromTheme(u"document-print-preview"_s));
-    QAction *close = addTool(
-        u"ID_Close"_s, tr("Close"),
-        QIcon::fromTheme(u"window-close"_s, style()->standardIcon(QStyle::SP_DialogCloseButton)));
+    addCloseTool(bar);
     connect(m_print, &QAction::triggered, this, [this] { printSelected(modReports::PrinterMode); });
     connect(m_printPreview, &QAction::triggered, this,
             [this] { printSelected(modReports::ScreenMode); });
-    connect(close, &QAction::triggered, this, &frmJournal::reject);
-    ui->layoutMain->setMenuBar(bar);
 }
 
 void frmJournal::createPopupMenu() {
