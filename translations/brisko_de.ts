@@ -38,19 +38,19 @@
     <name>CompanySetup</name>
     <message>
         <source>State/Province</source>
-        <translation type="unfinished"></translation>
+        <translation>Bundesland</translation>
     </message>
     <message>
         <source>Invalid property array index</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiger Index für Eigenschaftenfeld</translation>
     </message>
     <message>
         <source>Invalid tax rate.  Use format 0.00 and do not include the %</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiger Steuersatz.  Verwenden Sie das Format 0.00 und geben Sie das % nicht mit ein</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished">Fehler</translation>
+        <translation>Fehler</translation>
     </message>
 </context>
 <context>
@@ -84,66 +84,66 @@
     <name>CustomerMatchModel</name>
     <message>
         <source>Account ID</source>
-        <translation type="unfinished">Kundennummer</translation>
+        <translation>Kundennummer</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished">Name</translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Address</source>
-        <translation type="unfinished">Adresse</translation>
+        <translation>Adresse</translation>
     </message>
     <message>
         <source>Address 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresszusatz</translation>
     </message>
     <message>
         <source>City</source>
-        <translation type="unfinished">Ort</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>State</source>
-        <translation type="unfinished">Bundesland</translation>
+        <translation>Bundesland</translation>
     </message>
     <message>
         <source>Zip</source>
-        <translation type="unfinished"></translation>
+        <translation>PLZ</translation>
     </message>
 </context>
 <context>
     <name>CustomerTransactionsModel</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished">Datum</translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Receipt #</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungsnr.</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished">Gesamt</translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Sale</source>
-        <translation type="unfinished"></translation>
+        <translation>Verkauf</translation>
     </message>
     <message>
         <source>Payment</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlung</translation>
     </message>
     <message>
         <source>Void</source>
-        <translation type="unfinished"></translation>
+        <translation>Storno</translation>
     </message>
 </context>
 <context>
@@ -223,23 +223,23 @@ Bitte installieren Sie Brisko erneut.</translation>
     <name>JournalModel</name>
     <message>
         <source>Date</source>
-        <translation type="unfinished">Datum</translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Receipt No.</source>
-        <translation type="unfinished">Quittungsnr.</translation>
+        <translation>Quittungsnr.</translation>
     </message>
     <message>
         <source>Customer Name</source>
-        <translation type="unfinished">Kundenname</translation>
+        <translation>Kundenname</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished">Gesamt</translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished">Status</translation>
+        <translation>Status</translation>
     </message>
 </context>
 <context>
@@ -564,182 +564,182 @@ Bitte installieren Sie Brisko erneut.</translation>
     <name>frmCustProp</name>
     <message>
         <source>Customer Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Kundeneigenschaften</translation>
     </message>
     <message>
         <source>Customer tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Registerkarten des Kunden</translation>
     </message>
     <message>
         <source>&amp;General</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Allgemein</translation>
     </message>
     <message>
         <source>Customer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunde:</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished">&amp;Name:</translation>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
         <source>You can not change customer information</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie können die Kundendaten nicht ändern</translation>
     </message>
     <message>
         <source>Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse:</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;dresse:</translation>
     </message>
     <message>
         <source>Address&amp;2:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adress&amp;zusatz:</translation>
     </message>
     <message>
         <source>&amp;City:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort:</translation>
     </message>
     <message>
         <source>S&amp;tate/Province:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bundesland:</translation>
     </message>
     <message>
         <source>&amp;Zip/Postal:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PLZ:</translation>
     </message>
     <message>
         <source>&amp;Phone:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Telefon:</translation>
     </message>
     <message>
         <source>E&amp;mail:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;E-Mail:</translation>
     </message>
     <message>
         <source>Account Balance:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontostand:</translation>
     </message>
     <message>
         <source>&amp;Starting Balance:</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangs&amp;saldo:</translation>
     </message>
     <message>
         <source>Current Balance:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktueller Saldo:</translation>
     </message>
     <message>
         <source>T&amp;ransactions</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;uchungen</translation>
     </message>
     <message>
         <source>Transactions</source>
-        <translation type="unfinished"></translation>
+        <translation>Buchungen</translation>
     </message>
     <message>
         <source>States and provinces</source>
-        <translation type="unfinished"></translation>
+        <translation>Bundesländer</translation>
     </message>
     <message>
         <source>Transaction columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten der Buchungsliste</translation>
     </message>
     <message>
         <source>Save Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen speichern</translation>
     </message>
     <message>
         <source>Delete Customer</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunde löschen</translation>
     </message>
     <message>
         <source>Reassign</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu zuordnen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Schließen</translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>An error occured while loading customer information:  </source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Laden der Kundendaten ist ein Fehler aufgetreten:  </translation>
     </message>
     <message>
         <source>An error has occured:  </source>
-        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+        <translation>Ein Fehler ist aufgetreten:  </translation>
     </message>
     <message>
         <source>An error has occured </source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Fehler ist aufgetreten </translation>
     </message>
     <message>
         <source>Changes were not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Änderungen wurden nicht gespeichert</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished">Fehler</translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Customer record updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kundendatensatz wurde aktualisiert</translation>
     </message>
     <message>
         <source>Success</source>
-        <translation type="unfinished">Erfolgreich</translation>
+        <translation>Erfolgreich</translation>
     </message>
     <message>
         <source>ARE YOU SURE YOU WANT TO REMOVE THIS CUSTOMER?  This action will permanently remove the customer and all receipts for this customer.  This action can not be reversed!</source>
-        <translation type="unfinished"></translation>
+        <translation>MÖCHTEN SIE DIESEN KUNDEN WIRKLICH ENTFERNEN?  Dabei werden der Kunde und alle seine Quittungen endgültig entfernt.  Dieser Vorgang kann nicht rückgängig gemacht werden!</translation>
     </message>
     <message>
         <source>Delete Customer and Receipts</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunde und Quittungen löschen</translation>
     </message>
     <message>
         <source>An occured while deleting the customer&apos;s receipts.  This process will abort.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Löschen der Quittungen des Kunden ist ein Fehler aufgetreten.  Der Vorgang wird abgebrochen.</translation>
     </message>
     <message>
         <source>The customer record was note deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kundendatensatz wurde nicht gelöscht</translation>
     </message>
     <message>
         <source>Customer record deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kundendatensatz wurde gelöscht</translation>
     </message>
     <message>
         <source>You cannot reassign receipts to the same customer.  Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungen können nicht demselben Kunden neu zugeordnet werden.  Bitte versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Complete.  %1 record(s) were reassigned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgeschlossen.  Neu zugeordnete Datensätze: %1.</translation>
     </message>
     <message>
         <source>Reassign Receipts</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungen neu zuordnen</translation>
     </message>
 </context>
 <context>
     <name>frmCustomSearchProp</name>
     <message>
         <source>Custom Search Properties</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche in Zusatzfeldern</translation>
     </message>
     <message>
         <source>&amp;Search</source>
-        <translation type="unfinished">&amp;Suchen</translation>
+        <translation>&amp;Suchen</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished">&amp;Abbrechen</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>Custom Field %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatzfeld %1</translation>
     </message>
 </context>
 <context>
@@ -813,258 +813,258 @@ Bitte installieren Sie Brisko erneut.</translation>
     <name>frmItem</name>
     <message>
         <source>New Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Position</translation>
     </message>
     <message>
         <source>Item Details:</source>
-        <translation type="unfinished"></translation>
+        <translation>Positionsdetails:</translation>
     </message>
     <message>
         <source>&amp;ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;ID:</translation>
     </message>
     <message>
         <source>&amp;Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beschreibung:</translation>
     </message>
     <message>
         <source>E&amp;xt Desc:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zusatztext:</translation>
     </message>
     <message>
         <source>Unit &amp;Price:</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tückpreis:</translation>
     </message>
     <message>
         <source>&amp;Quantity:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Menge:</translation>
     </message>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished">&amp;OK</translation>
+        <translation>&amp;OK</translation>
     </message>
     <message>
         <source>&amp;Lookup</source>
-        <translation type="unfinished"></translation>
+        <translation>Su&amp;chen</translation>
     </message>
     <message>
         <source>&amp;New Item</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neuer Artikel</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished">&amp;Abbrechen</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>frmItem.loadProducts:  </source>
-        <translation type="unfinished"></translation>
+        <translation>frmItem.loadProducts:  </translation>
     </message>
     <message>
         <source>Edit Line Item</source>
-        <translation type="unfinished"></translation>
+        <translation>Position bearbeiten</translation>
     </message>
     <message>
         <source>An error has occured: </source>
-        <translation type="unfinished">Ein Fehler ist aufgetreten: </translation>
+        <translation>Ein Fehler ist aufgetreten: </translation>
     </message>
     <message>
         <source>Item ID Not Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikel-ID nicht gefunden</translation>
     </message>
     <message>
         <source>Product ID not found.  Do you want to add this product ID to the database and continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Artikel-ID wurde nicht gefunden.  Möchten Sie diese Artikel-ID in die Datenbank aufnehmen und fortfahren?</translation>
     </message>
     <message>
         <source>New Product</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Artikel</translation>
     </message>
     <message>
         <source>Invalid Product ID entered.  Please enter a valid product ID or click Lookup to search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Artikel-ID.  Bitte geben Sie eine gültige Artikel-ID ein oder klicken Sie auf Suchen, um danach zu suchen.</translation>
     </message>
     <message>
         <source>Invalid Product ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Artikel-ID</translation>
     </message>
     <message>
         <source>Invalid quantity.  Please enter only digits in this field</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Menge.  Bitte geben Sie in dieses Feld nur Ziffern ein</translation>
     </message>
     <message>
         <source>Invalid Quantity</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Menge</translation>
     </message>
     <message>
         <source>Quantity must be greater than 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Menge muss größer als 0 sein</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished">Fehler</translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Invalid Unit Cost.  Please enter a valid amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiger Stückpreis.  Bitte geben Sie einen gültigen Betrag ein</translation>
     </message>
     <message>
         <source>Invalid Unit Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiger Stückpreis</translation>
     </message>
 </context>
 <context>
     <name>frmJournal</name>
     <message>
         <source>Receipt Journal</source>
-        <translation type="unfinished">Quittungsjournal</translation>
+        <translation>Quittungsjournal</translation>
     </message>
     <message>
         <source>Dates:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitraum:</translation>
     </message>
     <message>
         <source>S&amp;tart Date:</source>
-        <translation type="unfinished"></translation>
+        <translation>Start&amp;datum:</translation>
     </message>
     <message>
         <source>&amp;End Date:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enddatum:</translation>
     </message>
     <message>
         <source>&amp;All Dates</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Zeiträume</translation>
     </message>
     <message>
         <source>Search:</source>
-        <translation type="unfinished">Suche:</translation>
+        <translation>Suche:</translation>
     </message>
     <message>
         <source>Customer &amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunden&amp;name:</translation>
     </message>
     <message>
         <source>&amp;Receipt Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quittungsnummer:</translation>
     </message>
     <message>
         <source>&amp;Open Balances</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Offene Salden</translation>
     </message>
     <message>
         <source>&amp;Search</source>
-        <translation type="unfinished">&amp;Suchen</translation>
+        <translation>&amp;Suchen</translation>
     </message>
     <message>
         <source>Custom Fields:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatzfelder:</translation>
     </message>
     <message>
         <source>A&amp;dd Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder &amp;hinzufügen</translation>
     </message>
     <message>
         <source>C&amp;lear Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder &amp;leeren</translation>
     </message>
     <message>
         <source>Receipts</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungen</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken</translation>
     </message>
     <message>
         <source>Print Preview</source>
-        <translation type="unfinished">Druckvorschau</translation>
+        <translation>Druckvorschau</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Schließen</translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Journal</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal</translation>
     </message>
     <message>
         <source>Print Receipt</source>
-        <translation type="unfinished">Quittung drucken</translation>
+        <translation>Quittung drucken</translation>
     </message>
     <message>
         <source>Change Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status ändern</translation>
     </message>
     <message>
         <source>Delete Receipt</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittung löschen</translation>
     </message>
     <message>
         <source>View Receipt</source>
-        <translation type="unfinished">Quittung anzeigen</translation>
+        <translation>Quittung anzeigen</translation>
     </message>
     <message>
         <source>Receipt columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten der Quittungsliste</translation>
     </message>
     <message>
         <source>frmJournal.getReceipts:  </source>
-        <translation type="unfinished"></translation>
+        <translation>frmJournal.getReceipts:  </translation>
     </message>
     <message>
         <source>Custom Fields:  (SET)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatzfelder:  (GESETZT)</translation>
     </message>
     <message>
         <source>Custom search fields have been cleared</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Suchwerte der Zusatzfelder wurden geleert</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>An error has occured:  </source>
-        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+        <translation>Ein Fehler ist aufgetreten:  </translation>
     </message>
     <message>
         <source>Access Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert</translation>
     </message>
     <message>
         <source>Your account does not have rights to delete a receipt.  Please see your system administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Konto hat keine Berechtigung, Quittungen zu löschen.  Bitte wenden Sie sich an Ihren Systemadministrator.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this receipt?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie diese Quittung wirklich löschen?</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished">Bestätigen</translation>
+        <translation>Bestätigen</translation>
     </message>
     <message>
         <source>Receipt has been deleted!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quittung wurde gelöscht!</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgeschlossen</translation>
     </message>
     <message>
         <source>Are you sure you want to void this receipt?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie diese Quittung wirklich stornieren?</translation>
     </message>
     <message>
         <source>Could not void receipt</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quittung konnte nicht storniert werden</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen</translation>
     </message>
     <message>
         <source>Receipt has been voided!</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quittung wurde storniert!</translation>
     </message>
 </context>
 <context>
@@ -1114,59 +1114,59 @@ Bitte installieren Sie Brisko erneut.</translation>
     <name>frmLookup</name>
     <message>
         <source>Product Lookup</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikelsuche</translation>
     </message>
     <message>
         <source>Product Name or ID:</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikelname oder ID:</translation>
     </message>
     <message>
         <source>Product Name or ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikelname oder ID</translation>
     </message>
     <message>
         <source>&amp;Search</source>
-        <translation type="unfinished">&amp;Suchen</translation>
+        <translation>&amp;Suchen</translation>
     </message>
     <message>
         <source>* To return all products, leave field empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>* Lassen Sie das Feld leer, um alle Artikel anzuzeigen.</translation>
     </message>
     <message>
         <source>Products Found:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Artikel:</translation>
     </message>
     <message>
         <source>Products Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Artikel</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Schließen</translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>SKU</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikelnr.</translation>
     </message>
     <message>
         <source>Product Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikelname</translation>
     </message>
     <message>
         <source>Product Desc</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikelbeschreibung</translation>
     </message>
     <message>
         <source>An error has occured: </source>
-        <translation type="unfinished">Ein Fehler ist aufgetreten: </translation>
+        <translation>Ein Fehler ist aufgetreten: </translation>
     </message>
     <message>
         <source>No products found</source>
-        <translation type="unfinished">Keine Artikel gefunden</translation>
+        <translation>Keine Artikel gefunden</translation>
     </message>
     <message>
         <source>Search Results</source>
-        <translation type="unfinished">Suchergebnisse</translation>
+        <translation>Suchergebnisse</translation>
     </message>
 </context>
 <context>
@@ -1479,490 +1479,490 @@ Bitte installieren Sie Brisko erneut.</translation>
     <name>frmNewCompany</name>
     <message>
         <source>New Company Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Einrichtung der Firma</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen</translation>
     </message>
     <message>
         <source>Welcome to Brisko Desk!</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen bei Brisko Desk!</translation>
     </message>
     <message>
         <source>font-size: 16pt; font-weight: bold;</source>
-        <translation type="unfinished"></translation>
+        <translation>font-size: 16pt; font-weight: bold;</translation>
     </message>
     <message>
         <source>This wizard will help you set up your company information and other options.  You can always changes these settings  by going to File-&gt;Options from the main screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Assistent hilft Ihnen, Ihre Firmendaten und weitere Optionen einzurichten.  Sie können diese Einstellungen  jederzeit im Hauptfenster unter Datei-&gt;Optionen ändern.</translation>
     </message>
     <message>
         <source>Use &amp;Shared Database</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gemeinsame Datenbank verwenden</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Next  &gt;&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weiter  &gt;&gt;</translation>
     </message>
     <message>
         <source>Company Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmendaten</translation>
     </message>
     <message>
         <source>Company &amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmen&amp;name:</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;dresse:</translation>
     </message>
     <message>
         <source>A&amp;ddress 2:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresszu&amp;satz:</translation>
     </message>
     <message>
         <source>&amp;City:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort:</translation>
     </message>
     <message>
         <source>&amp;State/Province:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bundesland:</translation>
     </message>
     <message>
         <source>&amp;Zip/Postal:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PLZ:</translation>
     </message>
     <message>
         <source>&amp;Phone:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Telefon:</translation>
     </message>
     <message>
         <source>&lt;&lt; &amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;&lt; &amp;Zurück</translation>
     </message>
     <message>
         <source>Default Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardeinstellungen</translation>
     </message>
     <message>
         <source>Default &amp;Payment Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard-Zahlungs&amp;art:</translation>
     </message>
     <message>
         <source>Default Receipt Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard-Quittungsart:</translation>
     </message>
     <message>
         <source>Pr&amp;oducts</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;rtikel</translation>
     </message>
     <message>
         <source>S&amp;ervices</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leistungen</translation>
     </message>
     <message>
         <source>&amp;Tax Rate:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Steuersatz:</translation>
     </message>
     <message>
         <source>0.00</source>
-        <translation type="unfinished"></translation>
+        <translation>0.00</translation>
     </message>
     <message>
         <source>Security:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherheit:</translation>
     </message>
     <message>
         <source>&amp;Username/Password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Benutzername/Kennwort</translation>
     </message>
     <message>
         <source>Open S&amp;ystem</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Offenes System</translation>
     </message>
     <message>
         <source>Default User&amp;name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard-Benutzer&amp;name:</translation>
     </message>
     <message>
         <source>Pass&amp;word:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kennwort:</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fertig stellen</translation>
     </message>
     <message>
         <source>An error has occured </source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Fehler ist aufgetreten </translation>
     </message>
     <message>
         <source>You must complete this process to use Brisko.  Are you sure you want to cancel this process?  </source>
-        <translation type="unfinished"></translation>
+        <translation>Sie müssen diesen Vorgang abschließen, um Brisko verwenden zu können.  Möchten Sie ihn wirklich abbrechen?  </translation>
     </message>
     <message>
         <source>Abort Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistent abbrechen</translation>
     </message>
     <message>
         <source>Please enter the name of your company.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie den Namen Ihrer Firma ein.</translation>
     </message>
     <message>
         <source>Missing Company Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmenname fehlt</translation>
     </message>
     <message>
         <source>Please enter a default username and password for the administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen Standard-Benutzernamen und ein Kennwort für den Administrator ein.</translation>
     </message>
     <message>
         <source>Missing Admin Username/Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername/Kennwort des Administrators fehlt</translation>
     </message>
     <message>
         <source>The default user account has been created.  You will need to log into Brisko with this account where you can set up additional user accounts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Standard-Benutzerkonto wurde angelegt.  Melden Sie sich mit diesem Konto bei Brisko an; dort können Sie weitere Benutzerkonten einrichten.</translation>
     </message>
     <message>
         <source>Admin Account Created</source>
-        <translation type="unfinished"></translation>
+        <translation>Administratorkonto angelegt</translation>
     </message>
 </context>
 <context>
     <name>frmOptions</name>
     <message>
         <source>Options</source>
-        <translation type="unfinished">Optionen</translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Company</source>
-        <translation type="unfinished"></translation>
+        <translation>Firma</translation>
     </message>
     <message>
         <source>Company &amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Firmen&amp;name:</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;dresse:</translation>
     </message>
     <message>
         <source>A&amp;ddress 2:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adress&amp;zusatz:</translation>
     </message>
     <message>
         <source>&amp;City:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort:</translation>
     </message>
     <message>
         <source>&amp;State/Province:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bundesland:</translation>
     </message>
     <message>
         <source>&amp;Zip/Postal:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PLZ:</translation>
     </message>
     <message>
         <source>&amp;Phone:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Telefon:</translation>
     </message>
     <message>
         <source>Receipt</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittung</translation>
     </message>
     <message>
         <source>Receipt &amp;Number Format:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format der Quittungsnummer:</translation>
     </message>
     <message>
         <source>Example:  mmyy [0000]</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel:  mmyy [0000]</translation>
     </message>
     <message>
         <source>&amp;Tagline:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Slogan:</translation>
     </message>
     <message>
         <source>Settings:</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen:</translation>
     </message>
     <message>
         <source>Use 3&quot; POS &amp;Receipt Printer Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format für 3-Zoll-&amp;Bondrucker verwenden</translation>
     </message>
     <message>
         <source>Hide &amp;Discount field</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rabattfeld ausblenden</translation>
     </message>
     <message>
         <source>Use customer a&amp;uto-complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunden automatisch &amp;vervollständigen</translation>
     </message>
     <message>
         <source>Hide account &amp;balance on print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kontostand beim Drucken ausblenden</translation>
     </message>
     <message>
         <source>Require customer address &amp;information</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunden&amp;adresse verlangen</translation>
     </message>
     <message>
         <source>Restart receipt numbering &amp;each year</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungsnummern jedes &amp;Jahr neu beginnen</translation>
     </message>
     <message>
         <source>Hide sales ta&amp;x on print</source>
-        <translation type="unfinished"></translation>
+        <translation>St&amp;euer beim Drucken ausblenden</translation>
     </message>
     <message>
         <source>&quot;&amp;Other&quot; Field Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bezeichnung des Felds „S&amp;onstiges“:</translation>
     </message>
     <message>
         <source>Defaults</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardwerte</translation>
     </message>
     <message>
         <source>Tax Rate:</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuersatz:</translation>
     </message>
     <message>
         <source>Tax Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuersatz</translation>
     </message>
     <message>
         <source>Tax is &amp;not charged</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Keine Steuer berechnen</translation>
     </message>
     <message>
         <source>Payment Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlungsart:</translation>
     </message>
     <message>
         <source>Payment Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlungsart</translation>
     </message>
     <message>
         <source>Receipt Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungsart:</translation>
     </message>
     <message>
         <source>&amp;Products</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Artikel</translation>
     </message>
     <message>
         <source>&amp;Services</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leistungen</translation>
     </message>
     <message>
         <source>Currency Symbol:</source>
-        <translation type="unfinished"></translation>
+        <translation>Währungssymbol:</translation>
     </message>
     <message>
         <source>Currency Symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Währungssymbol</translation>
     </message>
     <message>
         <source>Custom S&amp;ymbol:</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenes S&amp;ymbol:</translation>
     </message>
     <message>
         <source>Logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Logo</translation>
     </message>
     <message>
         <source>Current Logo:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelles Logo:</translation>
     </message>
     <message>
         <source>Current Logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelles Logo</translation>
     </message>
     <message>
         <source>Logo &amp;File:</source>
-        <translation type="unfinished"></translation>
+        <translation>Logo-&amp;Datei:</translation>
     </message>
     <message>
         <source>&amp;Browse</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch&amp;suchen</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importieren</translation>
     </message>
     <message>
         <source>&amp;Clear Logo</source>
-        <translation type="unfinished"></translation>
+        <translation>Logo &amp;entfernen</translation>
     </message>
     <message>
         <source>Size your logo to 360 x 360</source>
-        <translation type="unfinished"></translation>
+        <translation>Empfohlene Logogröße: 360 x 360</translation>
     </message>
     <message>
         <source>Custom Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatzfelder</translation>
     </message>
     <message>
         <source>Custom Fields:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatzfelder:</translation>
     </message>
     <message>
         <source>Field &amp;1:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld &amp;1:</translation>
     </message>
     <message>
         <source>Field &amp;2:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld &amp;2:</translation>
     </message>
     <message>
         <source>Field &amp;3:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld &amp;3:</translation>
     </message>
     <message>
         <source>Field &amp;4:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld &amp;4:</translation>
     </message>
     <message>
         <source>Field &amp;5:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld &amp;5:</translation>
     </message>
     <message>
         <source>Field &amp;6:</source>
-        <translation type="unfinished"></translation>
+        <translation>Feld &amp;6:</translation>
     </message>
     <message>
         <source>Use caution when changing custom fields as this will affect previously created receipts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern Sie Zusatzfelder mit Vorsicht, da sich dies auf bereits erstellte Quittungen auswirkt.</translation>
     </message>
     <message>
         <source>Security</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherheit</translation>
     </message>
     <message>
         <source>Program Access:</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmzugriff:</translation>
     </message>
     <message>
         <source>&amp;Open System</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Offenes System</translation>
     </message>
     <message>
         <source>&amp;Username/Password</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Benutzername/Kennwort</translation>
     </message>
     <message>
         <source>U&amp;sers:</source>
-        <translation type="unfinished"></translation>
+        <translation>Be&amp;nutzer:</translation>
     </message>
     <message>
         <source>Users</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer</translation>
     </message>
     <message>
         <source>Username</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername</translation>
     </message>
     <message>
         <source>Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff</translation>
     </message>
     <message>
         <source>&amp;Add User</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer &amp;hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Delete User</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer &amp;löschen</translation>
     </message>
     <message>
         <source>Email</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail</translation>
     </message>
     <message>
         <source>Outgoing Mail (SMTP) Server:</source>
-        <translation type="unfinished"></translation>
+        <translation>Postausgangsserver (SMTP):</translation>
     </message>
     <message>
         <source>Se&amp;rver:</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;rver:</translation>
     </message>
     <message>
         <source>&amp;Email:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;E-Mail:</translation>
     </message>
     <message>
         <source>P&amp;ort:</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;ort:</translation>
     </message>
     <message>
         <source>110</source>
-        <translation type="unfinished"></translation>
+        <translation>110</translation>
     </message>
     <message>
         <source>Requires &amp;Authentication</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Authentifizierung erforderlich</translation>
     </message>
     <message>
         <source>&amp;Username:</source>
-        <translation type="unfinished">&amp;Benutzername:</translation>
+        <translation>&amp;Benutzername:</translation>
     </message>
     <message>
         <source>&amp;Password:</source>
-        <translation type="unfinished">&amp;Kennwort:</translation>
+        <translation>&amp;Kennwort:</translation>
     </message>
     <message>
         <source>Requires SSL or &amp;TLS</source>
-        <translation type="unfinished"></translation>
+        <translation>SSL oder &amp;TLS erforderlich</translation>
     </message>
     <message>
         <source>&lt;a href=&quot;configure-mail-server-settings&quot;&gt;How do I configure my email settings?&lt;/a&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;a href=&quot;configure-mail-server-settings&quot;&gt;Wie richte ich meine E-Mail-Einstellungen ein?&lt;/a&gt;</translation>
     </message>
     <message>
         <source>How do I configure my email settings?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie richte ich meine E-Mail-Einstellungen ein?</translation>
     </message>
     <message>
         <source>Save Changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen speichern</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished">Schließen</translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>No symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Symbol</translation>
     </message>
     <message>
         <source>Euro </source>
-        <translation type="unfinished"></translation>
+        <translation>Euro </translation>
     </message>
     <message>
         <source>Japan </source>
-        <translation type="unfinished"></translation>
+        <translation>Japan </translation>
     </message>
     <message>
         <source>USA </source>
-        <translation type="unfinished"></translation>
+        <translation>USA </translation>
     </message>
     <message>
         <source>UK Pound </source>
-        <translation type="unfinished"></translation>
+        <translation>Britisches Pfund </translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenes</translation>
     </message>
     <message>
         <source>An error has occured:  </source>
-        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+        <translation>Ein Fehler ist aufgetreten:  </translation>
     </message>
     <message>
         <source>Syntax:
@@ -1971,100 +1971,106 @@ dd = Day
 yy = Year(2), yyyy = Year (4)
 0 = digit placeholder, place within []
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Syntax:
+mm = Monat
+dd = Tag
+yy = Jahr (2-stellig), yyyy = Jahr (4-stellig)
+0 = Ziffernplatzhalter, in [] setzen
+</translation>
     </message>
     <message>
         <source>Admin</source>
-        <translation type="unfinished"></translation>
+        <translation>Administrator</translation>
     </message>
     <message>
         <source>User</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer</translation>
     </message>
     <message>
         <source>Options have been changed.  Brisko Desk will now restart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Optionen wurden geändert.  Brisko Desk wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>Multi-User</source>
-        <translation type="unfinished">Mehrbenutzer</translation>
+        <translation>Mehrbenutzer</translation>
     </message>
     <message>
         <source>Receipt Number Format is a required field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Format der Quittungsnummer ist ein Pflichtfeld.</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished">Fehler</translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Invalid receipt number format.  The format must contain at least one digit placeholder within brackets.  
 Example:  yy-[00]</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiges Format der Quittungsnummer.  Das Format muss mindestens einen Ziffernplatzhalter in eckigen Klammern enthalten.  
+Beispiel:  yy-[00]</translation>
     </message>
     <message>
         <source>Digit placeholders are not properly formatted.  Digit placeholders must begin with a left bracket and close with a right bracket.  Only 0s are permitted within the brackets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ziffernplatzhalter sind nicht richtig formatiert.  Ziffernplatzhalter müssen mit einer öffnenden eckigen Klammer beginnen und mit einer schließenden eckigen Klammer enden.  Innerhalb der Klammern sind nur Nullen erlaubt.</translation>
     </message>
     <message>
         <source>You must create at least one Admin user because you have chosen to restrict system access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie müssen mindestens einen Administrator anlegen, da Sie den Systemzugriff eingeschränkt haben.</translation>
     </message>
     <message>
         <source>No Users Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Benutzer gefunden</translation>
     </message>
     <message>
         <source>Browse for Images</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild auswählen</translation>
     </message>
     <message>
         <source>Image Files (*.jpg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilddateien (*.jpg)</translation>
     </message>
     <message>
         <source>Only .jpg files can be used.  Please select a different file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es können nur .jpg-Dateien verwendet werden.  Bitte wählen Sie eine andere Datei.</translation>
     </message>
     <message>
         <source>Invalid File</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültige Datei</translation>
     </message>
     <message>
         <source>This will remove your current logo.  Do you want to proceed?</source>
-        <translation type="unfinished"></translation>
+        <translation>Dadurch wird Ihr aktuelles Logo entfernt.  Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Confirm Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen bestätigen</translation>
     </message>
     <message>
         <source>File not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei nicht gefunden</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert</translation>
     </message>
     <message>
         <source>Logo has been imported!</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logo wurde importiert!</translation>
     </message>
     <message>
         <source>Success</source>
-        <translation type="unfinished">Erfolgreich</translation>
+        <translation>Erfolgreich</translation>
     </message>
     <message>
         <source>Are you sure you want to delete this logo?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie dieses Logo wirklich löschen?</translation>
     </message>
     <message>
         <source>Confirm</source>
-        <translation type="unfinished">Bestätigen</translation>
+        <translation>Bestätigen</translation>
     </message>
     <message>
         <source>Are you sure you want to remove this user account?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie dieses Benutzerkonto wirklich entfernen?</translation>
     </message>
 </context>
 <context>
@@ -2158,31 +2164,31 @@ Example:  yy-[00]</source>
     <name>frmPrintOption</name>
     <message>
         <source>Print &amp; Email</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken &amp; E-Mail</translation>
     </message>
     <message>
         <source>Email &amp;Address:</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail-&amp;Adresse:</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drucken</translation>
     </message>
     <message>
         <source>&amp;Email</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;E-Mail</translation>
     </message>
     <message>
         <source>&amp;Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weiter</translation>
     </message>
     <message>
         <source>Receipt Number </source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungsnummer </translation>
     </message>
     <message>
         <source> has beeen saved.</source>
-        <translation type="unfinished"></translation>
+        <translation> wurde gespeichert.</translation>
     </message>
 </context>
 <context>
@@ -2340,397 +2346,397 @@ Example:  yy-[00]</source>
     <name>frmReceipt</name>
     <message>
         <source>New Receipt</source>
-        <translation type="unfinished">Neue Quittung</translation>
+        <translation>Neue Quittung</translation>
     </message>
     <message>
         <source>Receipt</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittung</translation>
     </message>
     <message>
         <source>Transaction</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgang</translation>
     </message>
     <message>
         <source>Customer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunde:</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished">&amp;Name:</translation>
+        <translation>&amp;Name:</translation>
     </message>
     <message>
         <source>Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Pflichtfeld</translation>
     </message>
     <message>
         <source>Add&amp;ress:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;dresse:</translation>
     </message>
     <message>
         <source>Address&amp;2:</source>
-        <translation type="unfinished"></translation>
+        <translation>Adress&amp;zusatz:</translation>
     </message>
     <message>
         <source>&amp;City:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort:</translation>
     </message>
     <message>
         <source>&amp;State/Province:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bundesland:</translation>
     </message>
     <message>
         <source>Posta&amp;l:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;PLZ:</translation>
     </message>
     <message>
         <source>P&amp;hone Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Telefonnummer:</translation>
     </message>
     <message>
         <source>&amp;Email:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;E-Mail:</translation>
     </message>
     <message>
         <source>Account:</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto:</translation>
     </message>
     <message>
         <source>ID:</source>
-        <translation type="unfinished">ID:</translation>
+        <translation>ID:</translation>
     </message>
     <message>
         <source>Balance:</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo:</translation>
     </message>
     <message>
         <source>0.00</source>
-        <translation type="unfinished"></translation>
+        <translation>0.00</translation>
     </message>
     <message>
         <source>Receipt Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungsart:</translation>
     </message>
     <message>
         <source>Prod&amp;uct Receipt</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikel&amp;quittung</translation>
     </message>
     <message>
         <source>Service Recei&amp;pt</source>
-        <translation type="unfinished"></translation>
+        <translation>Le&amp;istungsquittung</translation>
     </message>
     <message>
         <source>Account Pay&amp;ment</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kontozahlung</translation>
     </message>
     <message>
         <source>Da&amp;te:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dat&amp;um:</translation>
     </message>
     <message>
         <source>Products:</source>
-        <translation type="unfinished">Artikel:</translation>
+        <translation>Artikel:</translation>
     </message>
     <message>
         <source>Products</source>
-        <translation type="unfinished">Artikel</translation>
+        <translation>Artikel</translation>
     </message>
     <message>
         <source>Qty</source>
-        <translation type="unfinished"></translation>
+        <translation>Menge</translation>
     </message>
     <message>
         <source>Product ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikel-ID</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>Unit Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Stückpreis</translation>
     </message>
     <message>
         <source>Unit Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtpreis</translation>
     </message>
     <message>
         <source>Ext Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatztext</translation>
     </message>
     <message>
         <source>&amp;Add Product</source>
-        <translation type="unfinished"></translation>
+        <translation>Artikel &amp;hinzufügen</translation>
     </message>
     <message>
         <source>One or more product(s) required</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindestens ein Artikel erforderlich</translation>
     </message>
     <message>
         <source>Service Provided:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erbrachte Leistung:</translation>
     </message>
     <message>
         <source>Services Quick Pick List</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellauswahl der Leistungen</translation>
     </message>
     <message>
         <source>Amount Due:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fälliger Betrag:</translation>
     </message>
     <message>
         <source>Payment:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlung:</translation>
     </message>
     <message>
         <source>Pa&amp;yment Type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlungs&amp;art:</translation>
     </message>
     <message>
         <source>Payment Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlungsvermerk:</translation>
     </message>
     <message>
         <source>Recei&amp;ved By:</source>
-        <translation type="unfinished"></translation>
+        <translation>Entgegengenommen &amp;von:</translation>
     </message>
     <message>
         <source>Void Reason:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stornogrund:</translation>
     </message>
     <message>
         <source>Sub Total:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischensumme:</translation>
     </message>
     <message>
         <source>Tax (0.000%):</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuer (0.000%):</translation>
     </message>
     <message>
         <source>Ta&amp;x Exempt</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuer&amp;frei</translation>
     </message>
     <message>
         <source>Other:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonstiges:</translation>
     </message>
     <message>
         <source>Disc&amp;ount:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rabatt:</translation>
     </message>
     <message>
         <source>Total:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt:</translation>
     </message>
     <message>
         <source>Rece&amp;ived:</source>
-        <translation type="unfinished"></translation>
+        <translation>Erha&amp;lten:</translation>
     </message>
     <message>
         <source>Due:</source>
-        <translation type="unfinished"></translation>
+        <translation>Offen:</translation>
     </message>
     <message>
         <source>Custom Fields</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatzfelder</translation>
     </message>
     <message>
         <source>Save &amp;&amp; New</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;&amp; Neu</translation>
     </message>
     <message>
         <source>Save &amp;&amp; Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern &amp;&amp; Schließen</translation>
     </message>
     <message>
         <source>Matching customers</source>
-        <translation type="unfinished"></translation>
+        <translation>Passende Kunden</translation>
     </message>
     <message>
         <source>Clear customer</source>
-        <translation type="unfinished"></translation>
+        <translation>Kundenauswahl aufheben</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucken</translation>
     </message>
     <message>
         <source>Print Preview</source>
-        <translation type="unfinished">Druckvorschau</translation>
+        <translation>Druckvorschau</translation>
     </message>
     <message>
         <source>Edit Receipt</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittung bearbeiten</translation>
     </message>
     <message>
         <source>Void Receipt</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittung stornieren</translation>
     </message>
     <message>
         <source>Product columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten der Artikelliste</translation>
     </message>
     <message>
         <source>Tax (</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuer (</translation>
     </message>
     <message>
         <source>%):</source>
-        <translation type="unfinished"></translation>
+        <translation>%):</translation>
     </message>
     <message>
         <source>An error has occured:  </source>
-        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+        <translation>Ein Fehler ist aufgetreten:  </translation>
     </message>
     <message>
         <source>Custom field %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusatzfeld %1</translation>
     </message>
     <message>
         <source>Load Service List</source>
-        <translation type="unfinished">Leistungsliste laden</translation>
+        <translation>Leistungsliste laden</translation>
     </message>
     <message>
         <source>States and provinces</source>
-        <translation type="unfinished"></translation>
+        <translation>Bundesländer</translation>
     </message>
     <message>
         <source>Comments:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bemerkungen:</translation>
     </message>
     <message>
         <source>Account Balance:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontostand:</translation>
     </message>
     <message>
         <source>Check #:</source>
-        <translation type="unfinished"></translation>
+        <translation>Scheck-Nr.:</translation>
     </message>
     <message>
         <source>Payment Desc:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zahlungsvermerk:</translation>
     </message>
     <message>
         <source>Could not retrieve service description.</source>
-        <translation type="unfinished">Die Leistungsbeschreibung konnte nicht abgerufen werden.</translation>
+        <translation>Die Leistungsbeschreibung konnte nicht abgerufen werden.</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished">Fehler</translation>
+        <translation>Fehler</translation>
     </message>
     <message>
         <source>Receipt </source>
-        <translation type="unfinished"></translation>
+        <translation>Quittung </translation>
     </message>
     <message>
         <source> VOID - VOID - VOID</source>
-        <translation type="unfinished"></translation>
+        <translation> STORNIERT - STORNIERT - STORNIERT</translation>
     </message>
     <message>
         <source>An error has occured: </source>
-        <translation type="unfinished">Ein Fehler ist aufgetreten: </translation>
+        <translation>Ein Fehler ist aufgetreten: </translation>
     </message>
     <message>
         <source>Customer columns</source>
-        <translation type="unfinished">Spalten der Kundenliste</translation>
+        <translation>Spalten der Kundenliste</translation>
     </message>
     <message>
         <source>An error occured while searching for customers:  </source>
-        <translation type="unfinished"></translation>
+        <translation>Bei der Kundensuche ist ein Fehler aufgetreten:  </translation>
     </message>
     <message>
         <source>An error occured while loading customer information:  </source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Laden der Kundendaten ist ein Fehler aufgetreten:  </translation>
     </message>
     <message>
         <source>Invalid dollar amount.  Use format 0.00</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiger Betrag.  Verwenden Sie das Format 0.00</translation>
     </message>
 </context>
 <context>
     <name>frmReports</name>
     <message>
         <source>Report Manager</source>
-        <translation type="unfinished">Berichtsverwaltung</translation>
+        <translation>Berichtsverwaltung</translation>
     </message>
     <message>
         <source>Reports:</source>
-        <translation type="unfinished"></translation>
+        <translation>Berichte:</translation>
     </message>
     <message>
         <source>Reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Berichte</translation>
     </message>
     <message>
         <source>&amp;Run Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht &amp;ausführen</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished">&amp;Schließen</translation>
+        <translation>&amp;Schließen</translation>
     </message>
     <message>
         <source>An error has occured:  </source>
-        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+        <translation>Ein Fehler ist aufgetreten:  </translation>
     </message>
     <message>
         <source>Load Reports</source>
-        <translation type="unfinished"></translation>
+        <translation>Berichte laden</translation>
     </message>
     <message>
         <source>Path not found</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfad nicht gefunden</translation>
     </message>
 </context>
 <context>
     <name>frmReprint</name>
     <message>
         <source>Reprint Receipt</source>
-        <translation type="unfinished">Quittung erneut drucken</translation>
+        <translation>Quittung erneut drucken</translation>
     </message>
     <message>
         <source>&amp;Last Receipt Entered</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuletzt erfasste Quittung</translation>
     </message>
     <message>
         <source>&amp;Specific Receipt Number</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bestimmte Quittungsnummer</translation>
     </message>
     <message>
         <source>Receipt Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungsnummer:</translation>
     </message>
     <message>
         <source>&amp;Display Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur &amp;anzeigen</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drucken</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished">&amp;Schließen</translation>
+        <translation>&amp;Schließen</translation>
     </message>
     <message>
         <source>An error has occured:  </source>
-        <translation type="unfinished">Ein Fehler ist aufgetreten:  </translation>
+        <translation>Ein Fehler ist aufgetreten:  </translation>
     </message>
     <message>
         <source>No receipts were found in the database.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der Datenbank wurden keine Quittungen gefunden.</translation>
     </message>
     <message>
         <source>Print Receipt</source>
-        <translation type="unfinished">Quittung drucken</translation>
+        <translation>Quittung drucken</translation>
     </message>
     <message>
         <source>Receipt number entered was not found.  Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die eingegebene Quittungsnummer wurde nicht gefunden.  Bitte versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Unknown Receipt Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannte Quittungsnummer</translation>
     </message>
 </context>
 <context>
@@ -2899,91 +2905,91 @@ Example:  yy-[00]</source>
     <name>frmVoid</name>
     <message>
         <source>Change Receipt Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungsstatus ändern</translation>
     </message>
     <message>
         <source>Receipt Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungsnummer:</translation>
     </message>
     <message>
         <source>&amp;Retrieve</source>
-        <translation type="unfinished"></translation>
+        <translation>Ab&amp;rufen</translation>
     </message>
     <message>
         <source>Current Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktueller Status:</translation>
     </message>
     <message>
         <source>New Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Status:</translation>
     </message>
     <message>
         <source>&amp;Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Ak&amp;tualisieren</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished">&amp;Abbrechen</translation>
+        <translation>&amp;Abbrechen</translation>
     </message>
     <message>
         <source>This year&apos;s receipts</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungen dieses Jahres</translation>
     </message>
     <message>
         <source>Statuses</source>
-        <translation type="unfinished"></translation>
+        <translation>Statuswerte</translation>
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished">Auswählen</translation>
+        <translation>Auswählen</translation>
     </message>
     <message>
         <source>Issued</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgestellt</translation>
     </message>
     <message>
         <source>Void</source>
-        <translation type="unfinished"></translation>
+        <translation>Storniert</translation>
     </message>
     <message>
         <source>frmJournal.getReceipts:  </source>
-        <translation type="unfinished"></translation>
+        <translation>frmJournal.getReceipts:  </translation>
     </message>
     <message>
         <source>An error occured while retrieving the receipt information:  </source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Abrufen der Quittungsdaten ist ein Fehler aufgetreten:  </translation>
     </message>
     <message>
         <source>Receipt number not found.  Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quittungsnummer wurde nicht gefunden.  Bitte versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Receipt Not Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittung nicht gefunden</translation>
     </message>
     <message>
         <source>Void Reason</source>
-        <translation type="unfinished"></translation>
+        <translation>Stornogrund</translation>
     </message>
     <message>
         <source>Void Receipt</source>
-        <translation type="unfinished"></translation>
+        <translation>Quittung stornieren</translation>
     </message>
     <message>
         <source>An error occured while updating the receipt status:  </source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Ändern des Quittungsstatus ist ein Fehler aufgetreten:  </translation>
     </message>
     <message>
         <source>Receipt status has been updated for receipt number </source>
-        <translation type="unfinished"></translation>
+        <translation>Quittungsstatus geändert für Quittungsnummer </translation>
     </message>
     <message>
         <source>Receipt status update failed for receipt number </source>
-        <translation type="unfinished"></translation>
+        <translation>Statusänderung fehlgeschlagen für Quittungsnummer </translation>
     </message>
     <message>
         <source>Success</source>
-        <translation type="unfinished">Erfolgreich</translation>
+        <translation>Erfolgreich</translation>
     </message>
 </context>
 <context>
