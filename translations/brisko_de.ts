@@ -267,6 +267,10 @@ Bitte installieren Sie Brisko erneut.</translation>
         <source>Error</source>
         <translation>Fehler</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 <context>
     <name>Receipt</name>
@@ -468,6 +472,45 @@ Bitte installieren Sie Brisko erneut.</translation>
     </message>
 </context>
 <context>
+    <name>backupDatabase</name>
+    <message>
+        <source>Backup Filename</source>
+        <translation>Name der Sicherungsdatei</translation>
+    </message>
+    <message>
+        <source>Brisko Backup Files (*.db)</source>
+        <translation>Brisko-Sicherungsdateien (*.db)</translation>
+    </message>
+    <message>
+        <source>You can not use the name bdesk.db.  Please enter a different name for your backup file.</source>
+        <translation>Der Name bdesk.db kann nicht verwendet werden.  Bitte geben Sie einen anderen Namen für die Sicherungsdatei ein.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>%1 already exists.  Do you wish to overwrite this file?</source>
+        <translation>%1 ist bereits vorhanden.  Möchten Sie diese Datei überschreiben?</translation>
+    </message>
+    <message>
+        <source>Existing Backup File</source>
+        <translation>Vorhandene Sicherungsdatei</translation>
+    </message>
+    <message>
+        <source>Error occured during the database backup.  Error: </source>
+        <translation>Beim Sichern der Datenbank ist ein Fehler aufgetreten.  Fehler: </translation>
+    </message>
+    <message>
+        <source>Backup operation completed.</source>
+        <translation>Die Sicherung ist abgeschlossen.</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Abgeschlossen</translation>
+    </message>
+</context>
+<context>
     <name>dbUpdater</name>
     <message>
         <source>CAUTION!!!!  You are using a shared Brisko database.  If you upgrade this database, then all computers using this shared database must be upgraded before using Brisko.</source>
@@ -659,10 +702,6 @@ Bitte installieren Sie Brisko erneut.</translation>
         <translation>Neu zuordnen</translation>
     </message>
     <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
         <source>An error occured while loading customer information:  </source>
         <translation>Beim Laden der Kundendaten ist ein Fehler aufgetreten:  </translation>
     </message>
@@ -787,10 +826,6 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>Customers</source>
         <translation>Kunden</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
     </message>
     <message>
         <source>Customer columns</source>
@@ -977,10 +1012,6 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>Print Preview</source>
         <translation>Druckvorschau</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
     </message>
     <message>
         <source>Journal</source>
@@ -3086,121 +3117,6 @@ Beispiel:  yy-[00]</translation>
         <source>The file %1 is empty. Create a new Brisko database in it?</source>
         <translation>Die Datei %1 ist leer. Eine neue Brisko-Datenbank darin anlegen?</translation>
     </message>
-    <message>
-        <source>backupDatabase</source>
-        <comment>Backup Filename</comment>
-        <translation>Dateiname der Sicherung</translation>
-    </message>
-    <message>
-        <source>backupDatabase</source>
-        <comment>Brisko Backup Files (*.db)</comment>
-        <translation>Brisko-Sicherungsdateien (*.db)</translation>
-    </message>
-    <message>
-        <source>backupDatabase</source>
-        <comment>You can not use the name bdesk.db.  Please enter a different name for your backup file.</comment>
-        <translation>Der Name bdesk.db kann nicht verwendet werden.  Bitte geben Sie einen anderen Namen für Ihre Sicherungsdatei ein.</translation>
-    </message>
-    <message>
-        <source>backupDatabase</source>
-        <comment>Error</comment>
-        <translation>Fehler</translation>
-    </message>
-    <message>
-        <source>backupDatabase</source>
-        <comment>%1 already exists.  Do you wish to overwrite this file?</comment>
-        <translation>%1 existiert bereits.  Möchten Sie diese Datei überschreiben?</translation>
-    </message>
-    <message>
-        <source>backupDatabase</source>
-        <comment>Existing Backup File</comment>
-        <translation>Vorhandene Sicherungsdatei</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Restore Database</comment>
-        <translation>Datenbank wiederherstellen</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Brisko Backup Files (*.db);;All Files (*)</comment>
-        <translation>Brisko-Sicherungsdateien (*.db);;Alle Dateien (*)</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>You can not restore bdesk.db as it is the current database file.  Please choose a backup file.</comment>
-        <translation>bdesk.db kann nicht wiederhergestellt werden, da es die aktuelle Datenbankdatei ist.  Bitte wählen Sie eine Sicherungsdatei.</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Error</comment>
-        <translation>Fehler</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>%1 is not a Brisko database, or it is damaged.  Please choose a backup file.</comment>
-        <translation>%1 ist keine Brisko-Datenbank oder ist beschädigt.  Bitte wählen Sie eine Sicherungsdatei.</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Warning!  You are about to replace the contents of your current database.  This action CAN NOT BE REVERSED.</comment>
-        <translation>Achtung!  Sie sind dabei, den Inhalt Ihrer aktuellen Datenbank zu ersetzen.  Dieser Vorgang kann NICHT RÜCKGÄNGIG GEMACHT werden.</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Are you sure you wish to continue?</comment>
-        <translation>Möchten Sie wirklich fortfahren?</translation>
-    </message>
-    <message>
-        <source>openDatabaseDialog</source>
-        <comment>Open Database</comment>
-        <translation>Datenbank öffnen</translation>
-    </message>
-    <message>
-        <source>openDatabaseDialog</source>
-        <comment>Database Files (*.db)</comment>
-        <translation>Datenbankdateien (*.db)</translation>
-    </message>
-    <message>
-        <source>backupDatabase</source>
-        <comment>Error occured during the database backup.  Error: </comment>
-        <translation>Bei der Sicherung der Datenbank ist ein Fehler aufgetreten.  Fehler: </translation>
-    </message>
-    <message>
-        <source>backupDatabase</source>
-        <comment>Backup operation completed.</comment>
-        <translation>Die Sicherung ist abgeschlossen.</translation>
-    </message>
-    <message>
-        <source>backupDatabase</source>
-        <comment>Complete</comment>
-        <translation>Abgeschlossen</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Restore operation was canceled.</comment>
-        <translation>Die Wiederherstellung wurde abgebrochen.</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Restored Canceled</comment>
-        <translation>Wiederherstellung abgebrochen</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Could not restore database.  Error: </comment>
-        <translation>Die Datenbank konnte nicht wiederhergestellt werden.  Fehler: </translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Restore operation completed.  Brisko must now be restarted.</comment>
-        <translation>Die Wiederherstellung ist abgeschlossen.  Brisko muss jetzt neu gestartet werden.</translation>
-    </message>
-    <message>
-        <source>restoreDatabase</source>
-        <comment>Restore Complete</comment>
-        <translation>Wiederherstellung abgeschlossen</translation>
-    </message>
 </context>
 <context>
     <name>modReports</name>
@@ -3247,6 +3163,68 @@ Beispiel:  yy-[00]</translation>
     <message>
         <source>Email Receipt</source>
         <translation>Quittung per E-Mail senden</translation>
+    </message>
+</context>
+<context>
+    <name>openDatabaseDialog</name>
+    <message>
+        <source>Open Database</source>
+        <translation>Datenbank öffnen</translation>
+    </message>
+    <message>
+        <source>Database Files (*.db)</source>
+        <translation>Datenbankdateien (*.db)</translation>
+    </message>
+</context>
+<context>
+    <name>restoreDatabase</name>
+    <message>
+        <source>Restore Database</source>
+        <translation>Datenbank wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Brisko Backup Files (*.db);;All Files (*)</source>
+        <translation>Brisko-Sicherungsdateien (*.db);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>You can not restore bdesk.db as it is the current database file.  Please choose a backup file.</source>
+        <translation>bdesk.db kann nicht wiederhergestellt werden, da es die aktuelle Datenbankdatei ist.  Bitte wählen Sie eine Sicherungsdatei.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brisko database, or it is damaged.  Please choose a backup file.</source>
+        <translation>%1 ist keine Brisko-Datenbank oder ist beschädigt.  Bitte wählen Sie eine Sicherungsdatei.</translation>
+    </message>
+    <message>
+        <source>Warning!  You are about to replace the contents of your current database.  This action CAN NOT BE REVERSED.</source>
+        <translation>Achtung!  Sie sind dabei, den Inhalt Ihrer aktuellen Datenbank zu ersetzen.  Dies kann NICHT RÜCKGÄNGIG GEMACHT WERDEN.</translation>
+    </message>
+    <message>
+        <source>Are you sure you wish to continue?</source>
+        <translation>Möchten Sie wirklich fortfahren?</translation>
+    </message>
+    <message>
+        <source>Restore operation was canceled.</source>
+        <translation>Die Wiederherstellung wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Restored Canceled</source>
+        <translation>Wiederherstellung abgebrochen</translation>
+    </message>
+    <message>
+        <source>Could not restore database.  Error: </source>
+        <translation>Die Datenbank konnte nicht wiederhergestellt werden.  Fehler: </translation>
+    </message>
+    <message>
+        <source>Restore operation completed.  Brisko must now be restarted.</source>
+        <translation>Die Wiederherstellung ist abgeschlossen.  Brisko muss jetzt neu gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Restore Complete</source>
+        <translation>Wiederherstellung abgeschlossen</translation>
     </message>
 </context>
 </TS>
