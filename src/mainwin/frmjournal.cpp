@@ -192,7 +192,7 @@ void frmJournal::clearCustomFields() {
 
 qint32 frmJournal::selectedReceiptID() const {
     const QModelIndex current = ui->lstReceipts->currentIndex();
-    return current.isValid() ? m_receipts->receiptIDAt(current.row()) : 0;
+    return current.isValid() ? m_receipts->keyAt(current.row()) : 0;
 }
 
 void frmJournal::printSelected(qint16 mode) {
@@ -241,7 +241,7 @@ void frmJournal::deleteKey() {
 // new search.
 void frmJournal::deleteSelected() {
     const int row = ui->lstReceipts->currentIndex().row();
-    const qint32 receiptID = m_receipts->receiptIDAt(row);
+    const qint32 receiptID = m_receipts->keyAt(row);
     if (receiptID == 0)
         return;
     if (dialogs().message(tr("Are you sure you want to delete this receipt?"), tr("Confirm"),

@@ -9,15 +9,18 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const char *const kHeaders[JournalModel::ColumnCount] = {
-    QT_TRANSLATE_NOOP("JournalModel", "Date"),
-    QT_TRANSLATE_NOOP("JournalModel", "Receipt No."),
-    QT_TRANSLATE_NOOP("JournalModel", "Customer Name"),
-    QT_TRANSLATE_NOOP("JournalModel", "Total"),
-    QT_TRANSLATE_NOOP("JournalModel", "Status"),
+constexpr RecordListBase::Column kColumns[JournalModel::ColumnCount] = {
+    {QT_TRANSLATE_NOOP("JournalModel", "Date")},
+    {QT_TRANSLATE_NOOP("JournalModel", "Receipt No.")},
+    {QT_TRANSLATE_NOOP("JournalModel", "Customer Name")},
+    {QT_TRANSLATE_NOOP("JournalModel", "Total"), Qt::AlignRight | Qt::AlignVCenter},
+    {QT_TRANSLATE_NOOP("JournalModel", "Status")},
 };
 
 } // namespace
+
+JournalModel::JournalModel(QObject *parent)
+    : RecordListModel(kColumns, parent) {}
 
 void JournalModel::search(const Receipt &terms, const Receipt::GetReceiptsArgs &args) {
     clear();
@@ -29,23 +32,19 @@ void JournalModel::search(const Receipt &terms, const Receipt::GetReceiptsArgs &
 
 void JournalModel::clear() {
     beginResetModel();
-    m_rows.clear();
+    m_records.clear();
     m_texts.clear();
     m_after.reset();
     m_complete = true;
     endResetModel();
 }
 
-qint32 JournalModel::receiptIDAt(int row) const {
-    return row >= 0 && row < m_rows.size() ? m_rows.at(row).receiptID : 0;
-}
-
 // The next page still follows the last row read, removed or not.
 void JournalModel::removeReceipt(int row) {
-    if (row < 0 || row >= m_rows.size())
+    if (row < 0 || row >= m_records.size())
         return;
     beginRemoveRows({}, row, row);
-    m_rows.removeAt(row);
+    m_records.removeAt(row);
     endRemoveRows();
 }
 
@@ -82,9 +81,9 @@ void JournalModel::append(QList<Receipt::ListEntry> &page) {
         entry.payeeName = sharedText(entry.payeeName);
         entry.statusName = sharedText(entry.statusName);
     }
-    const int first = int(m_rows.size());
+    const int first = int(m_records.size());
     beginInsertRows({}, first, first + int(page.size()) - 1);
-    m_rows.append(std::move(page));
+    m_records.append(std::move(page));
     endInsertRows();
 }
 
@@ -95,41 +94,6 @@ QString JournalModel::sharedText(const QString &text) {
     if (known == m_texts.constEnd())
         known = m_texts.insert(text);
     return *known;
-}
-
-int JournalModel::rowCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : int(m_rows.size());
-}
-
-int JournalModel::columnCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant JournalModel::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Receipt::ListEntry &entry = m_rows.at(index.row());
-    switch (role) {
-    case Qt::DisplayRole:
-        return text(entry, index.column());
-    case Qt::TextAlignmentRole:
-        return index.column() == TotalColumn ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
-                                             : QVariant();
-    case ReceiptIDRole:
-        return entry.receiptID;
-    default:
-        return {};
-    }
-}
-
-QVariant JournalModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
-        return {};
-    if (role == Qt::DisplayRole)
-        return tr(kHeaders[section]);
-    if (role == Qt::TextAlignmentRole && section == TotalColumn)
-        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-    return {};
 }
 
 QString JournalModel::text(const Receipt::ListEntry &entry, int column) const {

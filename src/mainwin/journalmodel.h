@@ -1,9 +1,8 @@
 #pragma once
 
+#include "app/recordlistmodel.h"
 #include "receipts/receipt.h"
 
-#include <QAbstractTableModel>
-#include <QList>
 #include <QSet>
 #include <functional>
 #include <optional>
@@ -14,45 +13,40 @@ class BriskoError;
 // to them, so that a search over years of receipts shows its first rows at
 // once and no more of the list is ever held than has been looked at. Each
 // row keeps its receipt's key under ReceiptIDRole.
-class JournalModel : public QAbstractTableModel {
+class JournalModel : public RecordListModel<Receipt::ListEntry> {
     Q_OBJECT
 
 public:
     enum Column { DateColumn, NumberColumn, NameColumn, TotalColumn, StatusColumn, ColumnCount };
-    static constexpr int ReceiptIDRole = Qt::UserRole;
+    static constexpr int ReceiptIDRole = KeyRole;
     static constexpr int kPageRows = 256;
 
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit JournalModel(QObject *parent = nullptr);
 
     // Starts the list over with the hits of `args`, the custom terms taken
     // from `terms`, and reads the first page. A failure leaves the rows read
     // before it and goes on.
     void search(const Receipt &terms, const Receipt::GetReceiptsArgs &args);
     void clear();
-    // The key of the receipt in `row`; 0 when there is no such row.
-    qint32 receiptIDAt(int row) const;
     void removeReceipt(int row);
 
     // Told the failure of a page the view asked for; the list ends there.
     std::function<void(const BriskoError &)> onFetchFailure;
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
-    QVariant headerData(int section, Qt::Orientation orientation,
-                        int role = Qt::DisplayRole) const override;
     bool canFetchMore(const QModelIndex &parent) const override;
     void fetchMore(const QModelIndex &parent) override;
+
+protected:
+    QString text(const Receipt::ListEntry &entry, int column) const override;
+    qint32 key(const Receipt::ListEntry &entry) const override { return entry.receiptID; }
 
 private:
     void readPage();
     void append(QList<Receipt::ListEntry> &page);
     QString sharedText(const QString &text);
-    QString text(const Receipt::ListEntry &entry, int column) const;
 
     Receipt m_terms;
     Receipt::GetReceiptsArgs m_args;
-    QList<Receipt::ListEntry> m_rows;
     std::optional<Receipt::ListEntry> m_after; // the last row read; the next page follows it
     QSet<QString> m_texts; // one copy of each name and status, shared by the rows
     bool m_complete = true;
