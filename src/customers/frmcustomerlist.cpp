@@ -27,8 +27,12 @@ const QString kColumns =
 
 // Address, city, state and phone are read without a test for Null.
 CustomerListRow customerRow(const db::Cells &cells) {
-    return {cells.int32(0), cells.text(1), cells.text(2),
-            cells.text(3),  cells.text(4), cells.text(5)};
+    return {.payeeID = cells.int32(0),
+            .payeeName = cells.text(1),
+            .address1 = cells.text(2),
+            .city = cells.text(3),
+            .state = cells.text(4),
+            .phone = cells.text(5)};
 }
 
 } // namespace
@@ -36,7 +40,7 @@ CustomerListRow customerRow(const db::Cells &cells) {
 frmCustomerList::frmCustomerList(QWidget *parent)
     : ModalScreen(parent)
     , ui(std::make_unique<Ui::frmCustomerList>())
-    , m_customers(new CustomerListModel(this)) {
+    , m_customers(new CustomerListModel(CustomerListModel::Layout::Search, this)) {
     ui->setupUi(this);
     createToolBar();
     prepareList();
@@ -134,7 +138,7 @@ void frmCustomerList::showHits() {
     // A little air between the columns, which contents alone would not
     // leave; the last column takes whatever room is left.
     const int air = 2 * fontMetrics().averageCharWidth();
-    for (int column = 0; column < CustomerListModel::ColumnCount - 1; ++column) {
+    for (int column = 0; column < m_customers->columnCount() - 1; ++column) {
         ui->lstCustomers->resizeColumnToContents(column);
         header->resizeSection(column, header->sectionSize(column) + air);
     }

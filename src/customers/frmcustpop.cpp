@@ -10,7 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 frmCustPop::frmCustPop(QWidget *parent)
     : ModalScreen(parent)
     , ui(std::make_unique<Ui::frmCustPop>())
-    , m_customers(new CustomerListModel(this)) {
+    , m_customers(new CustomerListModel(CustomerListModel::Layout::Search, this)) {
     ui->setupUi(this);
     ui->lstCustomers->setModel(m_customers);
     ui->lstCustomers->setModelColumn(CustomerListModel::Name);

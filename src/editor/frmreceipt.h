@@ -5,7 +5,7 @@
 
 #include <memory>
 
-class CustomerMatchModel;
+class CustomerListModel;
 class QAction;
 class QKeyEvent;
 class QLineEdit;
@@ -96,7 +96,7 @@ private:
     void markCustomerChanged();
 
     std::unique_ptr<Ui::frmReceipt> ui;
-    CustomerMatchModel *m_matches = nullptr;
+    CustomerListModel *m_matches = nullptr;
 
     qint32 customerID = 0;    // the customer picked while the screen is open
     qint32 loadedPayeeID = 0; // payeeID of the loaded receipt

@@ -9,9 +9,9 @@
 #include "app/database.h"
 #include "app/runtimeformat.h"
 #include "app/session.h"
+#include "customers/customerlistmodel.h"
 #include "customers/frmcustomerlist.h"
 #include "customers/payee.h"
-#include "editor/customermatchmodel.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -31,15 +31,20 @@ constexpr int kPanelHeight = 210;
 constexpr int kPanelMaxWidth = 760;
 constexpr int kMatchColumnWidths[] = {75, 170, 150, 90, 110, 60};
 
-CustomerMatch matchOf(const db::Cells &cells) {
-    return {cells.int32(0), cells.text(1), cells.text(2), cells.text(3),
-            cells.text(4),  cells.text(5), cells.text(6)};
+CustomerListRow matchOf(const db::Cells &cells) {
+    return {.payeeID = cells.int32(0),
+            .payeeName = cells.text(1),
+            .address1 = cells.text(2),
+            .address2 = cells.text(3),
+            .city = cells.text(4),
+            .state = cells.text(5),
+            .zip = cells.text(6)};
 }
 
 } // namespace
 
 void frmReceipt::prepareCustomerMatching() {
-    m_matches = new CustomerMatchModel(this);
+    m_matches = new CustomerListModel(CustomerListModel::Layout::Matches, this);
     ui->lstCustomerMatch->setModel(m_matches);
     QHeaderView *header = ui->lstCustomerMatch->header();
     header->setAccessibleName(tr("Customer columns"));
@@ -88,7 +93,7 @@ void frmReceipt::payeeNameChanged() {
 // A customer picked before stays picked while the matches change; a name
 // that matches nobody is a new customer.
 void frmReceipt::searchCustomers(const QString &text) {
-    QList<CustomerMatch> rows;
+    QList<CustomerListRow> rows;
     const bool searched = runCommand(tr("An error occured while searching for customers:  "), [&] {
         db::forEachRow(kMatchStatement, {db::escapeLike(text) + u'%'},
                        [&rows](const db::Cells &cells) { rows.append(matchOf(cells)); });
