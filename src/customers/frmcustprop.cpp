@@ -17,6 +17,7 @@
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QIcon>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QStyle>
 #include <QToolBar>
@@ -140,6 +141,10 @@ void frmCustProp::createToolBar() {
     QAction *close = addTool(
         u"ID_Close"_s, tr("Close"),
         QIcon::fromTheme(u"window-close"_s, style()->standardIcon(QStyle::SP_DialogCloseButton)));
+    // A tool bar takes no focus: the keys reach its tools.
+    m_save->setShortcut(QKeySequence::Save);
+    m_delete->setShortcut(QKeySequence(tr("Ctrl+D")));
+    m_reassign->setShortcut(QKeySequence(tr("Ctrl+R")));
     connect(m_save, &QAction::triggered, this, &frmCustProp::saveCustomer);
     connect(m_delete, &QAction::triggered, this, &frmCustProp::deleteCustomer);
     connect(m_reassign, &QAction::triggered, this, &frmCustProp::reassign);

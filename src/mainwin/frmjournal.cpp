@@ -71,6 +71,9 @@ void frmJournal::createToolBar() {
     QAction *close = addTool(
         u"ID_Close"_s, tr("Close"),
         QIcon::fromTheme(u"window-close"_s, style()->standardIcon(QStyle::SP_DialogCloseButton)));
+    // A tool bar takes no focus: the keys reach its tools.
+    m_print->setShortcut(QKeySequence::Print);
+    m_printPreview->setShortcut(QKeySequence(tr("Ctrl+Shift+P")));
     connect(m_print, &QAction::triggered, this, [this] { printSelected(modReports::PrinterMode); });
     connect(m_printPreview, &QAction::triggered, this,
             [this] { printSelected(modReports::ScreenMode); });

@@ -29,11 +29,13 @@
 #include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <QToolBar>
 #include <functional>
 #include <memory>
 
@@ -167,6 +169,22 @@ QStringList unreachableByLetter(const QWidget &window) {
     return unreachable;
 }
 
+// The tools on a dialog's tool bar that no key reaches: a tool bar takes no
+// focus, and Escape closes.
+QStringList toolsWithoutKeys(const QWidget &window) {
+    QStringList unreachable;
+    if (qobject_cast<const QMainWindow *>(&window))
+        return unreachable; // its tools are in the menus too
+    for (const QToolBar *bar : window.findChildren<QToolBar *>()) {
+        for (const QAction *tool : bar->actions()) {
+            if (!tool->isSeparator() && tool->shortcut().isEmpty() &&
+                tool->objectName() != u"ID_Close"_s)
+                unreachable.append(tool->objectName());
+        }
+    }
+    return unreachable;
+}
+
 // The menu entries of `menu` and its submenus that share a letter.
 QStringList sharedMenuLetters(const QMenu &menu) {
     QStringList shared;
@@ -198,6 +216,7 @@ TEST_F(ScreenKeysTest, EveryControlHasANameAndEveryCaptionALetterOfItsOwn) {
         EXPECT_EQ(controlsWithoutAccessibleName(*window), QStringList());
         EXPECT_EQ(unreachableByLetter(*window), QStringList());
         EXPECT_EQ(sharedMnemonics(*window), QStringList());
+        EXPECT_EQ(toolsWithoutKeys(*window), QStringList());
     }
 }
 
