@@ -17,6 +17,7 @@
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QIcon>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QStyle>
 #include <QToolBar>
@@ -130,6 +131,10 @@ void frmCustProp::createToolBar() {
                        QIcon::fromTheme(u"edit-delete"_s));
     m_reassign = addTool(bar, u"ID_Reassign"_s, tr("Reassign"), QIcon::fromTheme(u"go-jump"_s));
     addCloseTool(bar);
+    // A tool bar takes no focus: the keys reach its tools.
+    m_save->setShortcut(QKeySequence::Save);
+    m_delete->setShortcut(QKeySequence(tr("Ctrl+D")));
+    m_reassign->setShortcut(QKeySequence(tr("Ctrl+R")));
     connect(m_save, &QAction::triggered, this, &frmCustProp::saveCustomer);
     connect(m_delete, &QAction::triggered, this, &frmCustProp::deleteCustomer);
     connect(m_reassign, &QAction::triggered, this, &frmCustProp::reassign);

@@ -2,6 +2,7 @@
 #include "ui_frmCustomSearchProp.h"
 
 #include "app/company.h"
+#include "platform/mnemonics.h"
 
 namespace {
 
@@ -29,8 +30,9 @@ void frmCustomSearchProp::load() {
                                      ui->lblCustom4, ui->lblCustom5, ui->lblCustom6};
     QLineEdit *boxes[kCustomFields] = {ui->txtCustom1, ui->txtCustom2, ui->txtCustom3,
                                        ui->txtCustom4, ui->txtCustom5, ui->txtCustom6};
+    QString taken = QStringLiteral("sc"); // Search and Cancel
     for (int field = 0; field < kCustomFields; ++field) {
-        labels[field]->setText(names[field]);
+        labels[field]->setText(withMnemonic(names[field], taken));
         boxes[field]->setVisible(!names[field].isEmpty());
         boxes[field]->setAccessibleName(
             names[field].isEmpty() ? tr("Custom Field %1").arg(field + 1) : names[field]);

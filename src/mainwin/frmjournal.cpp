@@ -61,6 +61,9 @@ void frmJournal::createToolBar() {
     m_printPreview = addTool(bar, u"ID_PrintPreview"_s, tr("Print Preview"),
                              QIcon::fromTheme(u"document-print-preview"_s));
     addCloseTool(bar);
+    // A tool bar takes no focus: the keys reach its tools.
+    m_print->setShortcut(QKeySequence::Print);
+    m_printPreview->setShortcut(QKeySequence(tr("Ctrl+Shift+P")));
     connect(m_print, &QAction::triggered, this, [this] { printSelected(modReports::PrinterMode); });
     connect(m_printPreview, &QAction::triggered, this,
             [this] { printSelected(modReports::ScreenMode); });

@@ -84,35 +84,35 @@ const QList<frmMain::Tool> &frmMain::tools() {
          .themeIcon = "application-exit",
          .fallbackIcon = ":/icons/exit.png"},
         {.id = "ID_OpenDatabase",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Open Database"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Open Database"),
          .command = &frmMain::openDatabase,
          .themeIcon = "document-open",
          .fallbackIcon = ":/icons/open-database.png"},
         {.id = "ID_BackupDatabase",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Backup Database"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Backup Database"),
          .command = &frmMain::backupDatabase,
          .themeIcon = "document-save"},
         {.id = "ID_RestoreDatabase",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Restore Database"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Restore Database"),
          .command = &frmMain::restoreDatabase,
          .themeIcon = "document-revert"},
         {.id = "ID_Multi-UserSettings",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Multi-User Settings"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Multi-User Settings"),
          .command = &frmMain::showModal<frmMultiUser>,
          .themeIcon = "network-server"},
         {.id = "ID_NewReceipt",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "New Receipt"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&New Receipt"),
          .command = &frmMain::newReceipt,
          .shortcut = "Ctrl+N",
          .themeIcon = "document-new",
          .fallbackIcon = ":/icons/new-receipt.png"},
         {.id = "ID_ReceiptJournal",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Receipt Journal"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Receipt &Journal"),
          .command = &frmMain::showJournal,
          .themeIcon = "x-office-address-book",
          .fallbackIcon = ":/icons/journal.png"},
         {.id = "ID_CustomerSearch",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Customers"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Customers"),
          .command = &frmMain::showModal<frmCustomerList>,
          .themeIcon = "system-users",
          .fallbackIcon = ":/icons/customers.png"},
@@ -122,54 +122,54 @@ const QList<frmMain::Tool> &frmMain::tools() {
          .command = &frmMain::showModal<frmReprint>},
         // A changed status shows in the lists only after their next refresh.
         {.id = "ID_UpdateReceiptStatus",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Update Receipt Status"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Update Receipt Status"),
          .command = &frmMain::showModal<frmVoid>},
         {.id = "ID_Options",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Options"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Options"),
          .command = &frmMain::showModal<frmOptions>,
          .themeIcon = "preferences-system"},
         {.id = "ID_ServiceDescriptions",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Service Descriptions"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Service Descriptions"),
          .command = &frmMain::showModal<frmService>},
         {.id = "ID_Products",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Inventory"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Inventory"),
          .command = &frmMain::showModal<frmProductManagement>,
          .themeIcon = "package-x-generic",
          .fallbackIcon = ":/icons/products.png"},
         {.id = "ID_PaymentMethods",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Payment Methods"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Payment Methods"),
          .command = &frmMain::showModal<frmPayMethod>},
         {.id = "ID_ReceiptLedger",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Receipt Ledger"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Receipt Ledger"),
          .reportType = 0},
         {.id = "ID_RptService",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Service Breakdown Report"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Service &Breakdown Report"),
          .reportType = 6},
         {.id = "ID_ServiceLedgerDetail",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Service Ledger"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Service Ledger"),
          .reportType = 2},
         {.id = "ID_ProductLedgerDetail",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Inventory Sold"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Inventory Sold"),
          .reportType = 1},
         {.id = "ID_InventorySoldDetail",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Inventory Sold Detail"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Inventory Sold &Detail"),
          .reportType = 7},
         {.id = "ID_Contents",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Contents"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&Contents"),
          .command = &frmMain::showContents,
          .shortcut = "F1",
          .themeIcon = "help-contents"},
         {.id = "ID_WhatsNew",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "What's New?"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "What's &New?"),
          .command = &frmMain::whatsNew,
          .themeIcon = "internet-web-browser",
          .fallbackIcon = ":/icons/whats-new.png"},
         {.id = "ID_CheckforUpdates",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "Check for Updates"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "Check for &Updates"),
          .command = &frmMain::checkForUpdates,
          .themeIcon = "system-software-update"},
         {.id = "ID_AboutBrisko",
-         .caption = QT_TRANSLATE_NOOP("frmMain", "About Brisko"),
+         .caption = QT_TRANSLATE_NOOP("frmMain", "&About Brisko"),
          .command = &frmMain::showModal<frmAbout>,
          .themeIcon = "help-about",
          .fallbackIcon = ":/icons/about.png"},
@@ -190,7 +190,7 @@ const QList<frmMain::MenuLayout> &frmMain::menuLayouts() {
          QT_TRANSLATE_NOOP("frmMain", "&File"),
          {u"ID_OpenDatabase"_s, kSeparator, u"ID_Multi-UserSettings"_s, kSeparator, u"ID_Exit"_s}},
         {"ID_Maintenance",
-         QT_TRANSLATE_NOOP("frmMain", "Maintenance"),
+         QT_TRANSLATE_NOOP("frmMain", "&Maintenance"),
          {u"ID_ServiceDescriptions"_s, u"ID_Products"_s, kSeparator, u"ID_PaymentMethods"_s,
           kSeparator, u"ID_BackupDatabase"_s, u"ID_RestoreDatabase"_s}},
         {"ID_Tools",
@@ -256,9 +256,6 @@ void frmMain::createMenus() {
         m_tools.insert(id, menu->menuAction());
         placeEntries(menu, layout.entries);
     }
-    m_menus.value(u"ID_Reports"_s)
-        ->menuAction()
-        ->setIcon(toolIcon("x-office-document", ":/icons/reports.png"));
     placeEntries(ui->ToolBar2, menuBarLayout());
 }
 
@@ -266,8 +263,14 @@ void frmMain::createIconBar() {
     placeEntries(ui->ToolBar1, iconBarLayout());
     // The reports tool drops its menu down at once, as a menu title does.
     QAction *reports = tool(u"ID_Reports"_s);
-    if (auto *button = qobject_cast<QToolButton *>(ui->ToolBar1->widgetForAction(reports)))
+    if (auto *button = qobject_cast<QToolButton *>(ui->ToolBar1->widgetForAction(reports))) {
         button->setPopupMode(QToolButton::InstantPopup);
+        // The icon sits on the button alone: a menu bar shows an action's icon
+        // in place of its title. A change of the action resets the button.
+        const QIcon icon = toolIcon("x-office-document", ":/icons/reports.png");
+        button->setIcon(icon);
+        connect(reports, &QAction::changed, button, [button, icon] { button->setIcon(icon); });
+    }
     ui->ToolBar1->setVisible(!ui->ToolBar1->actions().isEmpty());
 }
 

@@ -1,5 +1,7 @@
 #include "output/reportparameterdialog.h"
 
+#include "platform/mnemonics.h"
+
 #include <QDateEdit>
 #include <QDialogButtonBox>
 #include <QFormLayout>
@@ -17,6 +19,7 @@ ReportParameterDialog::ReportParameterDialog(const QString &reportName,
     , m_parameters(parameters) {
     setWindowTitle(reportName);
     auto *form = new QFormLayout(this);
+    QString taken = u"oc"_s; // OK and Cancel
     for (const ReportParameter &parameter : parameters) {
         QWidget *field = nullptr;
         if (parameter.kind == ReportParameter::Kind::Date) {
@@ -31,12 +34,14 @@ ReportParameterDialog::ReportParameterDialog(const QString &reportName,
             field = text;
         }
         field->setAccessibleName(parameter.label);
-        form->addRow(parameter.label, field);
+        form->addRow(withMnemonic(parameter.label, taken), field);
         m_fields.insert(parameter.name, field);
     }
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setObjectName(u"cmdOK"_s);
     buttons->button(QDialogButtonBox::Cancel)->setObjectName(u"cmdCancel"_s);
+    buttons->button(QDialogButtonBox::Ok)->setText(tr("&OK"));
+    buttons->button(QDialogButtonBox::Cancel)->setText(tr("&Cancel"));
     for (QAbstractButton *button : buttons->buttons())
         button->setAccessibleName(button->text().remove(u'&'));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);

@@ -11,6 +11,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStandardPaths>
@@ -34,13 +35,14 @@ ReportPreview::ReportPreview(RenderedReport report, QWidget *parent)
     setWindowFlag(Qt::WindowMaximizeButtonHint);
 
     auto *tools = new QHBoxLayout;
-    m_previous = addButton(u"cmdPrevious"_s, tr("< &Previous"));
+    m_previous = addButton(u"cmdPrevious"_s, tr("< Pre&vious"));
     m_pageLabel = new QLabel(this);
     m_pageLabel->setObjectName(u"lblPage"_s);
     m_next = addButton(u"cmdNext"_s, tr("&Next >"));
     m_zoom = new QComboBox(this);
     m_zoom->setObjectName(u"cboZoom"_s);
-    m_zoom->setAccessibleName(tr("Zoom"));
+    auto *zoomLabel = new QLabel(tr("&Zoom:"), this);
+    zoomLabel->setBuddy(m_zoom);
     for (int percent : kZoomPercents)
         m_zoom->addItem(tr("%1%").arg(percent), percent);
     m_zoom->setCurrentIndex(kDefaultZoomIndex);
@@ -50,6 +52,7 @@ ReportPreview::ReportPreview(RenderedReport report, QWidget *parent)
     for (QWidget *widget : std::initializer_list<QWidget *>{m_previous, m_pageLabel, m_next})
         tools->addWidget(widget);
     tools->addSpacing(12);
+    tools->addWidget(zoomLabel);
     tools->addWidget(m_zoom);
     tools->addStretch();
     for (QWidget *widget : std::initializer_list<QWidget *>{print, save, close})
@@ -59,6 +62,8 @@ ReportPreview::ReportPreview(RenderedReport report, QWidget *parent)
     m_pageView->setObjectName(u"pageView"_s);
     m_pageView->setAccessibleName(tr("Page"));
     m_scroll = new QScrollArea(this);
+    m_scroll->setObjectName(u"pageScroll"_s);
+    m_scroll->setAccessibleName(tr("Page"));
     m_scroll->setWidget(m_pageView);
     m_scroll->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     m_scroll->setBackgroundRole(QPalette::Dark);
@@ -73,7 +78,8 @@ ReportPreview::ReportPreview(RenderedReport report, QWidget *parent)
     connect(print, &QPushButton::clicked, this, &ReportPreview::printReport);
     connect(save, &QPushButton::clicked, this, &ReportPreview::saveAsPdf);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
-    resize(900, 1000);
+    // A page and a half of room, but never more than the screen has.
+    resize(QSize(900, 1000).boundedTo(screen()->availableGeometry().size() * 9 / 10));
     showPage(0);
 }
 

@@ -305,26 +305,26 @@ TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
     EXPECT_EQ(entriesOf(window->findChild<QMenuBar *>(u"ToolBar2"_s)),
               (QStringList{u"&File"_s, u"&Tools"_s, u"&Reports"_s, u"&Help"_s}));
     EXPECT_EQ(entriesOf(window->tool(u"ID_Tools"_s)->menu()),
-              (QStringList{u"Update Receipt Status"_s, u"Receipt Journal"_s, u"-"_s, u"Customers"_s,
-                           u"-"_s, u"Maintenance"_s, u"-"_s, u"Options"_s}));
+              (QStringList{u"&Update Receipt Status"_s, u"Receipt &Journal"_s, u"-"_s,
+                           u"&Customers"_s, u"-"_s, u"&Maintenance"_s, u"-"_s, u"&Options"_s}));
     EXPECT_EQ(entriesOf(window->findChild<QToolBar *>(u"ToolBar1"_s)),
-              (QStringList{u"New Receipt"_s, u"-"_s, u"Receipt Journal"_s, u"Inventory"_s, u"-"_s,
-                           u"Customers"_s, u"-"_s, u"&Reports"_s}));
+              (QStringList{u"&New Receipt"_s, u"-"_s, u"Receipt &Journal"_s, u"&Inventory"_s,
+                           u"-"_s, u"&Customers"_s, u"-"_s, u"&Reports"_s}));
     EXPECT_EQ(entriesOf(window->tool(u"ID_Reports"_s)->menu()),
-              (QStringList{u"Receipt Ledger"_s, u"-"_s, u"Service Ledger"_s, u"Inventory Sold"_s,
-                           u"Inventory Sold Detail"_s, u"Service Breakdown Report"_s}));
+              (QStringList{u"&Receipt Ledger"_s, u"-"_s, u"&Service Ledger"_s, u"&Inventory Sold"_s,
+                           u"Inventory Sold &Detail"_s, u"Service &Breakdown Report"_s}));
     EXPECT_EQ(
         entriesOf(window->tool(u"ID_File"_s)->menu()) +
             entriesOf(window->tool(u"ID_Maintenance"_s)->menu()) +
             entriesOf(window->tool(u"ID_Help"_s)->menu()),
-        (QStringList{u"Open Database"_s, u"-"_s, u"Multi-User Settings"_s, u"-"_s, u"E&xit"_s,
-                     u"Service Descriptions"_s, u"Inventory"_s, u"-"_s, u"Payment Methods"_s,
-                     u"-"_s, u"Backup Database"_s, u"Restore Database"_s, u"Contents"_s, u"-"_s,
-                     u"What's New?"_s, u"Check for Updates"_s, u"-"_s, u"About Brisko"_s}));
+        (QStringList{u"&Open Database"_s, u"-"_s, u"&Multi-User Settings"_s, u"-"_s, u"E&xit"_s,
+                     u"&Service Descriptions"_s, u"&Inventory"_s, u"-"_s, u"&Payment Methods"_s,
+                     u"-"_s, u"&Backup Database"_s, u"&Restore Database"_s, u"&Contents"_s, u"-"_s,
+                     u"What's &New?"_s, u"Check for &Updates"_s, u"-"_s, u"&About Brisko"_s}));
     EXPECT_EQ(window->tool(u"ID_Exit"_s)->shortcut(), QKeySequence(u"Ctrl+Q"_s));
     // Every tool is in the pool under its id, placed or not; one without a
     // command does nothing.
-    EXPECT_EQ(window->tool(u"ID_Multi-UserSettings"_s)->text(), u"Multi-User Settings"_s);
+    EXPECT_EQ(window->tool(u"ID_Multi-UserSettings"_s)->text(), u"&Multi-User Settings"_s);
     window->toolClick(u"ID_ServicesProvided"_s);
     EXPECT_TRUE(boxes().shown.isEmpty());
 

@@ -232,7 +232,7 @@ TEST_F(JournalTest, CustomTermsCountOnlyInTheirOwnSearch) {
         driveModal<frmCustomSearchProp>(
             [&] { click(journal, u"cmdCustom"_s); },
             [](frmCustomSearchProp &dialog) {
-                EXPECT_EQ(control<QLabel>(dialog, u"lblCustom1"_s)->text(), u"Colour"_s);
+                EXPECT_EQ(control<QLabel>(dialog, u"lblCustom1"_s)->text(), u"C&olour"_s);
                 EXPECT_TRUE(control<QLineEdit>(dialog, u"txtCustom1"_s)->isVisibleTo(&dialog));
                 EXPECT_FALSE(control<QLineEdit>(dialog, u"txtCustom2"_s)->isVisibleTo(&dialog));
                 EXPECT_EQ(controlsWithoutAccessibleName(dialog), QStringList());
