@@ -79,32 +79,9 @@
         <source>Phone</source>
         <translation>Telefon</translation>
     </message>
-</context>
-<context>
-    <name>CustomerMatchModel</name>
-    <message>
-        <source>Account ID</source>
-        <translation>Kundennummer</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>Adresse</translation>
-    </message>
     <message>
         <source>Address 2</source>
         <translation>Adresszusatz</translation>
-    </message>
-    <message>
-        <source>City</source>
-        <translation>Ort</translation>
-    </message>
-    <message>
-        <source>State</source>
-        <translation>Bundesland</translation>
     </message>
     <message>
         <source>Zip</source>
@@ -330,18 +307,21 @@ Bitte installieren Sie Brisko erneut.</translation>
     </message>
 </context>
 <context>
-    <name>ReportPreview</name>
+    <name>ReportParameterDialog</name>
     <message>
-        <source>&lt; &amp;Previous</source>
-        <translation>&lt; &amp;Zurück</translation>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
     </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ReportPreview</name>
     <message>
         <source>&amp;Next &gt;</source>
         <translation>&amp;Weiter &gt;</translation>
-    </message>
-    <message>
-        <source>Zoom</source>
-        <translation>Zoom</translation>
     </message>
     <message>
         <source>%1%</source>
@@ -382,6 +362,14 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>Error</source>
         <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>&lt; Pre&amp;vious</source>
+        <translation>&lt; Zu&amp;rück</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom:</source>
+        <translation>&amp;Zoom:</translation>
     </message>
 </context>
 <context>
@@ -587,10 +575,6 @@ Bitte installieren Sie Brisko erneut.</translation>
         <translation>Auswählen</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>An error has occured:  </source>
         <translation>Ein Fehler ist aufgetreten:  </translation>
     </message>
@@ -601,6 +585,10 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>No Records</source>
         <translation>Keine Einträge</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -761,6 +749,14 @@ Bitte installieren Sie Brisko erneut.</translation>
         <source>Reassign Receipts</source>
         <translation>Quittungen neu zuordnen</translation>
     </message>
+    <message>
+        <source>Ctrl+D</source>
+        <translation>Ctrl+D</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
 </context>
 <context>
     <name>frmCustomSearchProp</name>
@@ -800,28 +796,8 @@ Bitte installieren Sie Brisko erneut.</translation>
         <translation>&amp;Suchen</translation>
     </message>
     <message>
-        <source>Retrieve All</source>
-        <translation>Alle anzeigen</translation>
-    </message>
-    <message>
         <source>Search Options:</source>
         <translation>Suchoptionen:</translation>
-    </message>
-    <message>
-        <source>Begins With</source>
-        <translation>Beginnt mit</translation>
-    </message>
-    <message>
-        <source>Appears in Any</source>
-        <translation>Enthält</translation>
-    </message>
-    <message>
-        <source>Ends With</source>
-        <translation>Endet mit</translation>
-    </message>
-    <message>
-        <source>Customers:</source>
-        <translation>Kunden:</translation>
     </message>
     <message>
         <source>Customers</source>
@@ -842,6 +818,26 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>No Records</source>
         <translation>Keine Einträge</translation>
+    </message>
+    <message>
+        <source>Retrieve &amp;All</source>
+        <translation>&amp;Alle anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Begins With</source>
+        <translation>&amp;Beginnt mit</translation>
+    </message>
+    <message>
+        <source>Appears &amp;in Any</source>
+        <translation>&amp;Enthält</translation>
+    </message>
+    <message>
+        <source>&amp;Ends With</source>
+        <translation>Endet &amp;mit</translation>
+    </message>
+    <message>
+        <source>&amp;Customers:</source>
+        <translation>&amp;Kunden:</translation>
     </message>
 </context>
 <context>
@@ -1097,6 +1093,10 @@ Bitte installieren Sie Brisko erneut.</translation>
         <source>Receipt has been voided!</source>
         <translation>Die Quittung wurde storniert!</translation>
     </message>
+    <message>
+        <source>Ctrl+Shift+P</source>
+        <translation>Ctrl+Shift+P</translation>
+    </message>
 </context>
 <context>
     <name>frmLogin</name>
@@ -1251,92 +1251,8 @@ Bitte installieren Sie Brisko erneut.</translation>
         <translation>&amp;Beenden</translation>
     </message>
     <message>
-        <source>Open Database</source>
-        <translation>Datenbank öffnen</translation>
-    </message>
-    <message>
-        <source>Backup Database</source>
-        <translation>Datenbank sichern</translation>
-    </message>
-    <message>
-        <source>Restore Database</source>
-        <translation>Datenbank wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Multi-User Settings</source>
-        <translation>Mehrbenutzer-Einstellungen</translation>
-    </message>
-    <message>
-        <source>New Receipt</source>
-        <translation>Neue Quittung</translation>
-    </message>
-    <message>
-        <source>Receipt Journal</source>
-        <translation>Quittungsjournal</translation>
-    </message>
-    <message>
-        <source>Customers</source>
-        <translation>Kunden</translation>
-    </message>
-    <message>
         <source>Reprint Receipt</source>
         <translation>Quittung erneut drucken</translation>
-    </message>
-    <message>
-        <source>Update Receipt Status</source>
-        <translation>Quittungsstatus ändern</translation>
-    </message>
-    <message>
-        <source>Options</source>
-        <translation>Optionen</translation>
-    </message>
-    <message>
-        <source>Service Descriptions</source>
-        <translation>Leistungsbeschreibungen</translation>
-    </message>
-    <message>
-        <source>Inventory</source>
-        <translation>Warenbestand</translation>
-    </message>
-    <message>
-        <source>Payment Methods</source>
-        <translation>Zahlungsarten</translation>
-    </message>
-    <message>
-        <source>Receipt Ledger</source>
-        <translation>Quittungsübersicht</translation>
-    </message>
-    <message>
-        <source>Service Breakdown Report</source>
-        <translation>Leistungsaufschlüsselung</translation>
-    </message>
-    <message>
-        <source>Service Ledger</source>
-        <translation>Leistungsübersicht</translation>
-    </message>
-    <message>
-        <source>Inventory Sold</source>
-        <translation>Verkaufte Artikel</translation>
-    </message>
-    <message>
-        <source>Inventory Sold Detail</source>
-        <translation>Verkaufte Artikel im Einzelnen</translation>
-    </message>
-    <message>
-        <source>Contents</source>
-        <translation>Inhalt</translation>
-    </message>
-    <message>
-        <source>What&apos;s New?</source>
-        <translation>Was ist neu?</translation>
-    </message>
-    <message>
-        <source>Check for Updates</source>
-        <translation>Nach Aktualisierungen suchen</translation>
-    </message>
-    <message>
-        <source>About Brisko</source>
-        <translation>Über Brisko</translation>
     </message>
     <message>
         <source>Report Manager</source>
@@ -1351,10 +1267,6 @@ Bitte installieren Sie Brisko erneut.</translation>
         <translation>&amp;Datei</translation>
     </message>
     <message>
-        <source>Maintenance</source>
-        <translation>Verwaltung</translation>
-    </message>
-    <message>
         <source>&amp;Tools</source>
         <translation>&amp;Extras</translation>
     </message>
@@ -1367,28 +1279,116 @@ Bitte installieren Sie Brisko erneut.</translation>
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>Print Receipt</source>
-        <translation>Quittung drucken</translation>
-    </message>
-    <message>
-        <source>Print Preview</source>
-        <translation>Druckvorschau</translation>
-    </message>
-    <message>
-        <source>Email Receipt</source>
-        <translation>Quittung per E-Mail senden</translation>
-    </message>
-    <message>
-        <source>View Receipt</source>
-        <translation>Quittung anzeigen</translation>
-    </message>
-    <message>
         <source>Item</source>
         <translation>Eintrag</translation>
     </message>
     <message>
         <source>Sales this Month</source>
         <translation>Verkäufe in diesem Monat</translation>
+    </message>
+    <message>
+        <source>&amp;Print Receipt</source>
+        <translation>Quittung &amp;drucken</translation>
+    </message>
+    <message>
+        <source>Print Previe&amp;w</source>
+        <translation>Druck&amp;vorschau</translation>
+    </message>
+    <message>
+        <source>&amp;Email Receipt</source>
+        <translation>Quittung per &amp;E-Mail senden</translation>
+    </message>
+    <message>
+        <source>&amp;View Receipt</source>
+        <translation>Quittung &amp;anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Open Database</source>
+        <translation>&amp;Datenbank öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Backup Database</source>
+        <translation>Datenbank &amp;sichern</translation>
+    </message>
+    <message>
+        <source>&amp;Restore Database</source>
+        <translation>Datenbank &amp;wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Multi-User Settings</source>
+        <translation>&amp;Mehrbenutzer-Einstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;New Receipt</source>
+        <translation>&amp;Neue Quittung</translation>
+    </message>
+    <message>
+        <source>Receipt &amp;Journal</source>
+        <translation>Quittungs&amp;journal</translation>
+    </message>
+    <message>
+        <source>&amp;Customers</source>
+        <translation>&amp;Kunden</translation>
+    </message>
+    <message>
+        <source>&amp;Update Receipt Status</source>
+        <translation>Quittungs&amp;status ändern</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Optionen</translation>
+    </message>
+    <message>
+        <source>&amp;Service Descriptions</source>
+        <translation>&amp;Leistungsbeschreibungen</translation>
+    </message>
+    <message>
+        <source>&amp;Inventory</source>
+        <translation>&amp;Warenbestand</translation>
+    </message>
+    <message>
+        <source>&amp;Payment Methods</source>
+        <translation>&amp;Zahlungsarten</translation>
+    </message>
+    <message>
+        <source>&amp;Receipt Ledger</source>
+        <translation>&amp;Quittungsübersicht</translation>
+    </message>
+    <message>
+        <source>Service &amp;Breakdown Report</source>
+        <translation>&amp;Leistungsaufschlüsselung</translation>
+    </message>
+    <message>
+        <source>&amp;Service Ledger</source>
+        <translation>Lei&amp;stungsübersicht</translation>
+    </message>
+    <message>
+        <source>&amp;Inventory Sold</source>
+        <translation>&amp;Verkaufte Artikel</translation>
+    </message>
+    <message>
+        <source>Inventory Sold &amp;Detail</source>
+        <translation>Verkaufte Artikel im &amp;Einzelnen</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;Inhalt</translation>
+    </message>
+    <message>
+        <source>What&apos;s &amp;New?</source>
+        <translation>Was ist &amp;neu?</translation>
+    </message>
+    <message>
+        <source>Check for &amp;Updates</source>
+        <translation>Nach &amp;Aktualisierungen suchen</translation>
+    </message>
+    <message>
+        <source>&amp;About Brisko</source>
+        <translation>Ü&amp;ber Brisko</translation>
+    </message>
+    <message>
+        <source>&amp;Maintenance</source>
+        <translation>&amp;Verwaltung</translation>
     </message>
 </context>
 <context>
@@ -1398,32 +1398,8 @@ Bitte installieren Sie Brisko erneut.</translation>
         <translation>Mehrbenutzer-Einstellungen</translation>
     </message>
     <message>
-        <source>Select Local or Shared Database:</source>
-        <translation>Lokale oder gemeinsame Datenbank wählen:</translation>
-    </message>
-    <message>
-        <source>Use stand-alone database</source>
-        <translation>Einzelplatz-Datenbank verwenden</translation>
-    </message>
-    <message>
-        <source>Use a shared database</source>
-        <translation>Gemeinsame Datenbank verwenden</translation>
-    </message>
-    <message>
         <source>Shared File Location:</source>
         <translation>Speicherort der gemeinsamen Datei:</translation>
-    </message>
-    <message>
-        <source>Browse</source>
-        <translation>Durchsuchen</translation>
-    </message>
-    <message>
-        <source>Copy current stand-alone database to shared location.</source>
-        <translation>Aktuelle Einzelplatz-Datenbank an den gemeinsamen Speicherort kopieren.</translation>
-    </message>
-    <message>
-        <source>Remove Share File Lock</source>
-        <translation>Sperre der gemeinsamen Datei aufheben</translation>
     </message>
     <message>
         <source>&amp;OK</source>
@@ -1505,6 +1481,34 @@ Bitte installieren Sie Brisko erneut.</translation>
         <source>Multi-User</source>
         <translation>Mehrbenutzer</translation>
     </message>
+    <message>
+        <source>Select &amp;Local or Shared Database:</source>
+        <translation>&amp;Lokale oder gemeinsame Datenbank wählen:</translation>
+    </message>
+    <message>
+        <source>Use &amp;stand-alone database</source>
+        <translation>&amp;Einzelplatz-Datenbank verwenden</translation>
+    </message>
+    <message>
+        <source>Use a s&amp;hared database</source>
+        <translation>&amp;Gemeinsame Datenbank verwenden</translation>
+    </message>
+    <message>
+        <source>Shared &amp;File Location:</source>
+        <translation>&amp;Speicherort der gemeinsamen Datei:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse</source>
+        <translation>Durc&amp;hsuchen</translation>
+    </message>
+    <message>
+        <source>Co&amp;py current stand-alone database to shared location.</source>
+        <translation>Aktuelle Einzelplatz-Datenbank an den gemeinsamen Speicherort &amp;kopieren.</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Share File Lock</source>
+        <translation>Sperre der gemeinsamen Datei a&amp;ufheben</translation>
+    </message>
 </context>
 <context>
     <name>frmNewCompany</name>
@@ -1533,20 +1537,12 @@ Bitte installieren Sie Brisko erneut.</translation>
         <translation>&amp;Gemeinsame Datenbank verwenden</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>&amp;Next  &gt;&gt;</source>
         <translation>&amp;Weiter  &gt;&gt;</translation>
     </message>
     <message>
         <source>Company Information</source>
         <translation>Firmendaten</translation>
-    </message>
-    <message>
-        <source>Company &amp;Name:</source>
-        <translation>Firmen&amp;name:</translation>
     </message>
     <message>
         <source>&amp;Address:</source>
@@ -1663,6 +1659,14 @@ Bitte installieren Sie Brisko erneut.</translation>
     <message>
         <source>Admin Account Created</source>
         <translation>Administratorkonto angelegt</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Abbre&amp;chen</translation>
+    </message>
+    <message>
+        <source>Company Na&amp;me:</source>
+        <translation>Firmenna&amp;me:</translation>
     </message>
 </context>
 <context>
@@ -2103,16 +2107,16 @@ Beispiel:  yy-[00]</translation>
         <source>Are you sure you want to remove this user account?</source>
         <translation>Möchten Sie dieses Benutzerkonto wirklich entfernen?</translation>
     </message>
+    <message>
+        <source>Ctrl+S</source>
+        <translation>Ctrl+S</translation>
+    </message>
 </context>
 <context>
     <name>frmPayMethod</name>
     <message>
         <source>Payment Method Admin</source>
         <translation>Zahlungsarten verwalten</translation>
-    </message>
-    <message>
-        <source>Payment Methods:</source>
-        <translation>Zahlungsarten:</translation>
     </message>
     <message>
         <source>Payment Methods</source>
@@ -2129,10 +2133,6 @@ Beispiel:  yy-[00]</translation>
     <message>
         <source>Payment Method Details:</source>
         <translation>Details der Zahlungsart:</translation>
-    </message>
-    <message>
-        <source>Method Name:</source>
-        <translation>Bezeichnung:</translation>
     </message>
     <message>
         <source>Status:</source>
@@ -2190,6 +2190,22 @@ Beispiel:  yy-[00]</translation>
         <source>In Use</source>
         <translation>In Verwendung</translation>
     </message>
+    <message>
+        <source>&amp;Payment Methods:</source>
+        <translation>&amp;Zahlungsarten:</translation>
+    </message>
+    <message>
+        <source>Method &amp;Name:</source>
+        <translation>&amp;Bezeichnung:</translation>
+    </message>
+    <message>
+        <source>Ac&amp;tive</source>
+        <translation>Akti&amp;v</translation>
+    </message>
+    <message>
+        <source>&amp;Inactive</source>
+        <translation>&amp;Inaktiv</translation>
+    </message>
 </context>
 <context>
     <name>frmPrintOption</name>
@@ -2229,20 +2245,8 @@ Beispiel:  yy-[00]</translation>
         <translation>Warenbestand</translation>
     </message>
     <message>
-        <source>Products:</source>
-        <translation>Artikel:</translation>
-    </message>
-    <message>
-        <source>Search:</source>
-        <translation>Suche:</translation>
-    </message>
-    <message>
         <source>Press Enter to search</source>
         <translation>Zum Suchen die Eingabetaste drücken</translation>
-    </message>
-    <message>
-        <source>Show Inactive</source>
-        <translation>Inaktive anzeigen</translation>
     </message>
     <message>
         <source>Products</source>
@@ -2257,32 +2261,8 @@ Beispiel:  yy-[00]</translation>
         <translation>Artikeldetails:</translation>
     </message>
     <message>
-        <source>Name:</source>
-        <translation>Name:</translation>
-    </message>
-    <message>
-        <source>ID:</source>
-        <translation>ID:</translation>
-    </message>
-    <message>
-        <source>Description:</source>
-        <translation>Beschreibung:</translation>
-    </message>
-    <message>
-        <source>Unit Price:</source>
-        <translation>Stückpreis:</translation>
-    </message>
-    <message>
         <source>Status:</source>
         <translation>Status:</translation>
-    </message>
-    <message>
-        <source>Inactive</source>
-        <translation>Inaktiv</translation>
-    </message>
-    <message>
-        <source>Active</source>
-        <translation>Aktiv</translation>
     </message>
     <message>
         <source>&amp;Save</source>
@@ -2371,6 +2351,50 @@ Beispiel:  yy-[00]</translation>
     <message>
         <source>Search Results</source>
         <translation>Suchergebnisse</translation>
+    </message>
+    <message>
+        <source>&amp;Products:</source>
+        <translation>&amp;Artikel:</translation>
+    </message>
+    <message>
+        <source>Sea&amp;rch:</source>
+        <translation>Such&amp;e:</translation>
+    </message>
+    <message>
+        <source>S&amp;how Inactive</source>
+        <translation>Inaktive an&amp;zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;ID:</source>
+        <translation>&amp;ID:</translation>
+    </message>
+    <message>
+        <source>Descrip&amp;tion:</source>
+        <translation>&amp;Beschreibung:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit Price:</source>
+        <translation>Stück&amp;preis:</translation>
+    </message>
+    <message>
+        <source>Inacti&amp;ve</source>
+        <translation>Ina&amp;ktiv</translation>
+    </message>
+    <message>
+        <source>A&amp;ctive</source>
+        <translation>Akti&amp;v</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>Abbre&amp;chen</translation>
+    </message>
+    <message>
+        <source>F5</source>
+        <translation>F5</translation>
     </message>
 </context>
 <context>
@@ -2769,16 +2793,16 @@ Beispiel:  yy-[00]</translation>
         <source>Unknown Receipt Number</source>
         <translation>Unbekannte Quittungsnummer</translation>
     </message>
+    <message>
+        <source>Receipt &amp;Number:</source>
+        <translation>Quittungs&amp;nummer:</translation>
+    </message>
 </context>
 <context>
     <name>frmService</name>
     <message>
         <source>Manage Services</source>
         <translation>Leistungen verwalten</translation>
-    </message>
-    <message>
-        <source>Services:</source>
-        <translation>Leistungen:</translation>
     </message>
     <message>
         <source>Services</source>
@@ -2793,18 +2817,6 @@ Beispiel:  yy-[00]</translation>
         <translation>Details der Leistung:</translation>
     </message>
     <message>
-        <source>Short Name:</source>
-        <translation>Kurzbezeichnung:</translation>
-    </message>
-    <message>
-        <source>Receipt Description:</source>
-        <translation>Text auf der Quittung:</translation>
-    </message>
-    <message>
-        <source>Default Cost:</source>
-        <translation>Standardpreis:</translation>
-    </message>
-    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
@@ -2815,10 +2827,6 @@ Beispiel:  yy-[00]</translation>
     <message>
         <source>&amp;Save</source>
         <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Close</source>
@@ -2864,6 +2872,26 @@ Beispiel:  yy-[00]</translation>
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Ser&amp;vices:</source>
+        <translation>Leistun&amp;gen:</translation>
+    </message>
+    <message>
+        <source>Short &amp;Name:</source>
+        <translation>Kurz&amp;name:</translation>
+    </message>
+    <message>
+        <source>&amp;Receipt Description:</source>
+        <translation>&amp;Quittungstext:</translation>
+    </message>
+    <message>
+        <source>Default C&amp;ost:</source>
+        <translation>Standard&amp;preis:</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>frmUser</name>
@@ -2890,10 +2918,6 @@ Beispiel:  yy-[00]</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>An error has occured:  </source>
@@ -2930,6 +2954,10 @@ Beispiel:  yy-[00]</translation>
     <message>
         <source>Ac&amp;tive</source>
         <translation>Akt&amp;iv</translation>
+    </message>
+    <message>
+        <source>Ca&amp;ncel</source>
+        <translation>Abbre&amp;chen</translation>
     </message>
 </context>
 <context>
@@ -3021,6 +3049,14 @@ Beispiel:  yy-[00]</translation>
     <message>
         <source>Success</source>
         <translation>Erfolgreich</translation>
+    </message>
+    <message>
+        <source>Receipt &amp;Number:</source>
+        <translation>Quittungs&amp;nummer:</translation>
+    </message>
+    <message>
+        <source>New &amp;Status:</source>
+        <translation>Neuer &amp;Status:</translation>
     </message>
 </context>
 <context>

@@ -26,7 +26,8 @@ protected:
         const frmMain window;
         QStringList texts;
         for (const QString &id :
-             {u"ID_File"_s, u"ID_Exit"_s, u"ID_Tools"_s, u"ID_Reports"_s, u"ID_Help"_s})
+             {u"ID_File"_s, u"ID_OpenDatabase"_s, u"ID_Exit"_s, u"ID_Tools"_s, u"ID_Reports"_s,
+              u"ID_Help"_s, u"ID_WhatsNew"_s, u"ID_AboutBrisko"_s})
             texts << window.tool(id)->text();
         return texts;
     }
@@ -49,14 +50,17 @@ protected:
 TEST_F(TranslationsTest, GermanDesktopGetsGermanMenusLoginAndQtButtons) {
     Translations::useLanguageOf(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(menuTexts(),
-              (QStringList{u"&Datei"_s, u"&Beenden"_s, u"&Extras"_s, u"&Berichte"_s, u"&Hilfe"_s}));
+              (QStringList{u"&Datei"_s, u"&Datenbank öffnen"_s, u"&Beenden"_s, u"&Extras"_s,
+                           u"&Berichte"_s, u"&Hilfe"_s, u"Was ist &neu?"_s, u"Ü&ber Brisko"_s}));
     EXPECT_EQ(loginTexts(), (QStringList{u"Brisko-Anmeldung"_s, u"&Benutzername:"_s,
                                          u"&Kennwort:"_s, u"&Anmelden"_s}));
     EXPECT_EQ(qtCancelButton(), u"Abbrechen"_s);
 }
 
 TEST_F(TranslationsTest, EnglishOrUnknownLanguagesKeepTheEnglishTexts) {
-    const QStringList menus = {u"&File"_s, u"E&xit"_s, u"&Tools"_s, u"&Reports"_s, u"&Help"_s};
+    const QStringList menus = {u"&File"_s,        u"&Open Database"_s, u"E&xit"_s,
+                               u"&Tools"_s,       u"&Reports"_s,       u"&Help"_s,
+                               u"What's &New?"_s, u"&About Brisko"_s};
     const QStringList login = {u"Brisko Login"_s, u"&Username:"_s, u"&Password:"_s, u"&Login"_s};
     for (const QLocale &locale : {QLocale(QLocale::English, QLocale::UnitedKingdom),
                                   QLocale(QLocale::Swahili, QLocale::Kenya)}) {
