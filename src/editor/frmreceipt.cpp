@@ -6,6 +6,7 @@
 #include "app/runtimeformat.h"
 #include "app/session.h"
 #include "catalogue/paymenttypelist.h"
+#include "catalogue/product.h"
 #include "catalogue/service.h"
 #include "customers/payee.h"
 #include "output/modreports.h"
@@ -104,6 +105,14 @@ void frmReceipt::createToolIcons() {
     ui->ID_EditReceipt->setIcon(
         toolIcon(this, u"document-edit"_s, QStyle::SP_FileDialogDetailedView));
     ui->ID_Void->setIcon(toolIcon(this, u"edit-delete"_s, QStyle::SP_DialogDiscardButton));
+    ui->ID_SaveClose->setIcon(toolIcon(this, u"document-save"_s, QStyle::SP_DialogSaveButton));
+    ui->ID_SaveNew->setIcon(toolIcon(this, u"document-new"_s, QStyle::SP_FileIcon));
+    // The toolbar takes no focus: the keyboard saves through shortcuts.
+    ui->ID_SaveClose->setShortcut(QKeySequence::Save);
+    ui->ID_SaveNew->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+    for (QAction *tool : {ui->ID_SaveClose, ui->ID_SaveNew})
+        tool->setToolTip(tool->text().replace(u"&&"_s, u"&"_s) + u" ("_s +
+                         tool->shortcut().toString(QKeySequence::NativeText) + u')');
     for (QAction *tool : ui->SSActiveToolBars1->actions()) {
         if (QWidget *button = ui->SSActiveToolBars1->widgetForAction(tool))
             button->setAccessibleName(tool->text());
@@ -115,6 +124,15 @@ void frmReceipt::connectControls() {
             [this] { printReceipt(modReports::PrinterMode); });
     connect(ui->ID_PrintPreview, &QAction::triggered, this, &frmReceipt::previewReceipt);
     connect(ui->ID_EditReceipt, &QAction::triggered, this, &frmReceipt::editReceipt);
+    connect(ui->ID_Void, &QAction::triggered, this, &frmReceipt::voidReceipt);
+    for (QAction *tool : {ui->ID_SaveClose, ui->ID_SaveNew}) {
+        const bool close = tool == ui->ID_SaveClose;
+        connect(tool, &QAction::triggered, this, [this, close] { saveForm(close); });
+    }
+    connect(ui->cmdSaveClose, &QPushButton::clicked, this, [this] { saveForm(true); });
+    connect(ui->cmdSaveNew, &QPushButton::clicked, this, [this] { saveForm(false); });
+    connect(ui->cmdAddProduct, &QPushButton::clicked, this, &frmReceipt::addProduct);
+    connect(ui->lstProducts, &QTreeWidget::itemDoubleClicked, this, &frmReceipt::editProduct);
     connect(ui->optView, &QButtonGroup::idClicked, this, &frmReceipt::viewChanged);
     connect(ui->lstPaymentType, &QComboBox::currentIndexChanged, this,
             &frmReceipt::paymentTypeChanged);
@@ -131,7 +149,8 @@ void frmReceipt::connectControls() {
         Utility::selectAllOnFocus(text);
     for (QObject *watched :
          {static_cast<QObject *>(ui->txtDue), static_cast<QObject *>(ui->txtRecvd),
-          static_cast<QObject *>(ui->txtDesc), static_cast<QObject *>(ui->txtRecvdBy)})
+          static_cast<QObject *>(ui->txtDesc), static_cast<QObject *>(ui->txtRecvdBy),
+          static_cast<QObject *>(ui->lstProducts)})
         watched->installEventFilter(this);
 }
 
@@ -450,17 +469,17 @@ void frmReceipt::showReceipt(const Receipt &receipt) {
 void frmReceipt::loadProducts() {
     ui->lstProducts->clear();
     for (const db::Row &row : Receipt().getReceiptProducts(receiptID)) {
+        Product item;
+        item.productID = row.int32(u"productID"_s);
+        item.qty = row.int16(u"quantity"_s);
+        item.productSKU = row.textOr(u"productSKU"_s, QString());
+        item.description = row.textOr(u"overrideDesc"_s, QString());
+        item.cost = row.currency(u"overrideCost"_s);
         const Currency unitTotal = row.currency(u"unitTotal"_s);
         auto *line = new QTreeWidgetItem(ui->lstProducts);
-        line->setText(0, row.text(u"quantity"_s));
-        line->setText(1, row.textOr(u"productSKU"_s, QString()));
-        line->setText(2, row.textOr(u"overrideDesc"_s, QString()));
-        line->setText(3, Runtime::formatNumber(row.currency(u"overrideCost"_s), kAmountFormat));
+        showLine(line, item);
         line->setText(4, Runtime::formatNumber(unitTotal, kAmountFormat));
         line->setText(5, row.textOr(u"extDesc"_s, QString()));
-        line->setData(0, Qt::UserRole, row.int32(u"productID"_s));
-        for (int column : {0, 3, 4})
-            line->setTextAlignment(column, Qt::AlignRight | Qt::AlignVCenter);
         productTotal += unitTotal;
     }
 }
@@ -512,6 +531,8 @@ bool frmReceipt::eventFilter(QObject *watched, QEvent *event) {
         return descriptionFocused();
     if (watched == ui->txtRecvdBy && event->type() == QEvent::KeyPress)
         return receivedByKey(static_cast<QKeyEvent *>(event));
+    if (watched == ui->lstProducts && event->type() == QEvent::KeyPress)
+        return productListKey(static_cast<QKeyEvent *>(event));
     return ModalScreen::eventFilter(watched, event);
 }
 

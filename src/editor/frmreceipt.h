@@ -6,9 +6,12 @@
 #include <memory>
 
 class CustomerListModel;
+class Product;
+class ReceiptSave;
 class QAction;
 class QKeyEvent;
 class QLineEdit;
+class QTreeWidgetItem;
 class QWidget;
 class Receipt;
 
@@ -40,6 +43,10 @@ public:
     void beginEdit();
     // Shows the receipt on the screen through the receipt output.
     void previewReceipt();
+    // Voids the shown receipt after asking, with a reason the user may give.
+    void voidReceipt();
+    // Escape and the close box: a new receipt is only dropped after asking.
+    void reject() override;
 
 protected:
     void load() override;
@@ -78,6 +85,28 @@ private:
     bool checkAmountField(QLineEdit *field);
     bool descriptionFocused();
     bool receivedByKey(QKeyEvent *key);
+
+    // The lines of a product receipt (receiptlines.cpp).
+    void addProduct();
+    void editProduct();
+    void removeProduct();
+    bool productListKey(QKeyEvent *key);
+    void showLine(QTreeWidgetItem *line, const Product &item);
+    static Currency lineTotal(const QTreeWidgetItem *line);
+    QList<Product> linesOnScreen() const;
+
+    // Saving, voiding and closing (receiptsaving.cpp).
+    void saveForm(bool closeAfter);
+    bool checkRequired();
+    bool askAboutCustomer(ReceiptSave &save);
+    void fillPayee(ReceiptSave &save);
+    void fillReceipt(ReceiptSave &save);
+    void zeroInvalidAmounts();
+    void savedReceipt(const ReceiptSave &save, bool wasNew);
+    void showPrintOptions(const ReceiptSave &save);
+    void startNextReceipt();
+    void clearForm();
+    bool confirmClose();
 
     // The customer (receiptcustomer.cpp).
     void prepareCustomerMatching();

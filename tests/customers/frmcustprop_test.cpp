@@ -8,6 +8,7 @@
 #include "customers/frmcustpop.h"
 #include "customers/frmcustprop.h"
 #include "customers/payee.h"
+#include "editor/frmreceipt.h"
 #include "receipts/receipt.h"
 #include "support/briskotest.h"
 
@@ -17,6 +18,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QTabWidget>
+#include <QTest>
 #include <QTreeView>
 
 using namespace Qt::Literals::StringLiterals;
@@ -287,3 +289,28 @@ TEST_F(CustomerSheetTest, WithoutTheEditRightNothingChanges) {
 }
 
 } // namespace
+
+// A double click on a transaction shows that receipt in the receipt editor.
+TEST_F(CustomerSheetTest, ADoubleClickedTransactionOpensItsReceipt) {
+    addAnnsReceipts();
+    onSheet([](frmCustProp &sheet) {
+        control<QTabWidget>(sheet, u"SSTab1"_s)->setCurrentIndex(1);
+        auto *orders = control<QTreeView>(sheet, u"lstOrders"_s);
+        const QModelIndex sale = orders->model()->index(2, 2);
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(orders));
+        orders->scrollTo(sale);
+        const QString title = driveModal<frmReceipt>(
+            [&] {
+                const QPoint centre = orders->visualRect(sale).center();
+                QTest::mouseClick(orders->viewport(), Qt::LeftButton, {}, centre);
+                QTest::mouseDClick(orders->viewport(), Qt::LeftButton, {}, centre);
+            },
+            [](frmReceipt &screen) {
+                const QString shownTitle = screen.windowTitle();
+                screen.reject();
+                return shownTitle;
+            });
+        EXPECT_EQ(title, u"Receipt 26-002"_s);
+    });
+    EXPECT_TRUE(boxes().shown.isEmpty());
+}

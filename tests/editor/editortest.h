@@ -38,7 +38,8 @@ protected:
                              const QList<Line> &lines = {});
 
     // Opens receipt `receiptID` (0 for a new one) in the editor, lets `act`
-    // read and drive it, then closes it; gives what `act` gave.
+    // read and drive it, then closes it without the question of a new
+    // receipt; gives what `act` gave.
     template <typename Act> auto withEditor(qint32 receiptID, Act &&act) {
         return driveModal<frmReceipt>(
             [receiptID] {
@@ -48,7 +49,8 @@ protected:
             },
             [&](frmReceipt &screen) {
                 auto result = act(screen);
-                screen.reject();
+                if (screen.isVisible())
+                    screen.done(QDialog::Rejected);
                 return result;
             });
     }

@@ -39,7 +39,7 @@ QStringList entriesOf(const QComboBox *list) {
 using ReceiptEditorTest = EditorTest;
 
 // A new receipt opens in the company's default kind, with every field open
-// and only the save tools on (the save tools wait, hidden, for the save).
+// and only the save tools on.
 TEST_F(ReceiptEditorTest, ANewReceiptOpensInTheDefaultKindWithTheCompanysSettings) {
     company().taxRate = 6.5;
     company().otherFieldName = u"Shipping"_s;
@@ -70,7 +70,7 @@ TEST_F(ReceiptEditorTest, ANewReceiptOpensInTheDefaultKindWithTheCompanysSetting
         EXPECT_EQ(enabled(screen, kFields), u"111111111"_s);
         EXPECT_EQ(shown(screen, {u"txtCustom1"_s, u"txtCustom2"_s, u"cmdSaveNew"_s, u"lblVoid"_s,
                                  u"CustomerPanel"_s, u"lblReqField0"_s, u"lblReqField11"_s}),
-                  u"0100000"_s);
+                  u"0110000"_s);
         EXPECT_EQ(textsOf(screen, {u"lblTaxTitle"_s, u"lblOther"_s, u"lblCustom2"_s,
                                    u"lstPaymentType"_s, u"Label12"_s, u"txtRecvdBy"_s}),
                   u"Tax (6.500%): | Shipping | PO Number | Cash | Payment Desc: | "_s);

@@ -6,14 +6,8 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-// Saves on a fresh database whose counter for '13 starts at 1.
-class SaveTest : public BriskoTest {
-protected:
-    void SetUp() override {
-        BriskoTest::SetUp();
-        Receipt().createReceiptYear(u"13"_s, u"1"_s);
-    }
-
+// What a save left in the file, read back row by row.
+struct StoredRows {
     static int count(const QString &table) {
         return db::readFirst(u"SELECT COUNT(*) AS n FROM "_s + table)->int32(u"n"_s);
     }
@@ -38,5 +32,14 @@ protected:
     }
     static bool integrityOk() {
         return db::readFirst(u"PRAGMA integrity_check"_s)->text(u"integrity_check"_s) == u"ok"_s;
+    }
+};
+
+// Saves on a fresh database whose counter for '13 starts at 1.
+class SaveTest : public BriskoTest, protected StoredRows {
+protected:
+    void SetUp() override {
+        BriskoTest::SetUp();
+        Receipt().createReceiptYear(u"13"_s, u"1"_s);
     }
 };
