@@ -410,14 +410,7 @@ void frmReceipt::showReceipt(const Receipt &receipt) {
     Payee payee;
     payee.LoadPayeeInfo(receipt.payeeID);
     loadedPayeeID = receipt.payeeID;
-    ui->txtPayeeName->setText(payee.payeeName);
-    ui->txtAddress->setText(payee.address1);
-    ui->txtAddress2->setText(payee.address2);
-    ui->txtCity->setText(payee.city);
-    setStateText(payee.State);
-    ui->txtZip->setText(payee.zip);
-    ui->txtPhone->setText(payee.phone);
-    ui->txtEmail->setText(payee.email);
+    showPayee(payee);
     ui->txtReceiptDate->setDate(receipt.receiptDate.date());
 
     const bool isVoid = receipt.status == Receipt::Void;

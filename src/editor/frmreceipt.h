@@ -6,6 +6,7 @@
 #include <memory>
 
 class CustomerListModel;
+class Payee;
 class Product;
 class ReceiptSave;
 class QAction;
@@ -115,6 +116,7 @@ private:
     void pickCustomer();
     void chooseCustomer();
     void loadCustomer();
+    void showPayee(const Payee &payee);
     void showCustomerBalance();
     void clearCustomer();
     void showCustomerPanel();

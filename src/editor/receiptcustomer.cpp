@@ -150,12 +150,8 @@ void frmReceipt::chooseCustomer() {
     customerListPending = false;
 }
 
-// A user without the edit right takes a customer but cannot change the
-// customer's data here.
-void frmReceipt::loadCustomer() {
-    Payee payee;
-    if (!payee.LoadPayeeInfo(customerID))
-        return;
+// The customer's fields as the customer record holds them.
+void frmReceipt::showPayee(const Payee &payee) {
     ui->txtPayeeName->setText(payee.payeeName);
     ui->txtAddress->setText(payee.address1);
     ui->txtAddress2->setText(payee.address2);
@@ -164,6 +160,15 @@ void frmReceipt::loadCustomer() {
     ui->txtZip->setText(payee.zip);
     ui->txtPhone->setText(payee.phone);
     ui->txtEmail->setText(payee.email);
+}
+
+// A user without the edit right takes a customer but cannot change the
+// customer's data here.
+void frmReceipt::loadCustomer() {
+    Payee payee;
+    if (!payee.LoadPayeeInfo(customerID))
+        return;
+    showPayee(payee);
     const SystemUser *user = session().currentUser.get();
     if (user && user->canEdit == 0) {
         for (QWidget *field :
