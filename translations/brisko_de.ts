@@ -2707,6 +2707,90 @@ Beispiel:  yy-[00]</translation>
         <source>Invalid dollar amount.  Use format 0.00</source>
         <translation>Ungültiger Betrag.  Verwenden Sie das Format 0.00</translation>
     </message>
+    <message>
+        <source>Save &amp;&amp; &amp;New</source>
+        <translation>Speichern &amp;&amp; &amp;Neu</translation>
+    </message>
+    <message>
+        <source>Save &amp;&amp; &amp;Close</source>
+        <translation>Speichern &amp;&amp; S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to remove this line item?</source>
+        <translation>Möchten Sie diese Position wirklich entfernen?</translation>
+    </message>
+    <message>
+        <source>Remove Line item</source>
+        <translation>Position entfernen</translation>
+    </message>
+    <message>
+        <source>Please enter information in the required fields.</source>
+        <translation>Bitte füllen Sie die Pflichtfelder aus.</translation>
+    </message>
+    <message>
+        <source>Incomplete Form</source>
+        <translation>Unvollständiges Formular</translation>
+    </message>
+    <message>
+        <source>An error has occured while saving the receipt to the database:  </source>
+        <translation>Beim Speichern der Quittung in der Datenbank ist ein Fehler aufgetreten:  </translation>
+    </message>
+    <message>
+        <source>You have changed the address for this customer.  </source>
+        <translation>Sie haben die Adresse dieses Kunden geändert.  </translation>
+    </message>
+    <message>
+        <source>Click YES to update the customer&apos;s account with the new information.</source>
+        <translation>Klicken Sie auf JA, um das Kundenkonto mit den neuen Angaben zu aktualisieren.</translation>
+    </message>
+    <message>
+        <source>Click NO to create a new customer account.</source>
+        <translation>Klicken Sie auf NEIN, um ein neues Kundenkonto anzulegen.</translation>
+    </message>
+    <message>
+        <source>If you create a new account, the customer&apos;s account balance WILL NOT be transferred to the new account.</source>
+        <translation>Wenn Sie ein neues Konto anlegen, wird der Kontostand des Kunden NICHT auf das neue Konto übertragen.</translation>
+    </message>
+    <message>
+        <source>Existing Customer Found</source>
+        <translation>Vorhandener Kunde gefunden</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to void this receipt?</source>
+        <translation>Möchten Sie diese Quittung wirklich stornieren?</translation>
+    </message>
+    <message>
+        <source>Confirm</source>
+        <translation>Bestätigen</translation>
+    </message>
+    <message>
+        <source>Void Reason</source>
+        <translation>Stornogrund</translation>
+    </message>
+    <message>
+        <source>Could not void receipt</source>
+        <translation>Die Quittung konnte nicht storniert werden</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Receipt has been voided!</source>
+        <translation>Die Quittung wurde storniert!</translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation>Abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel this receipt?  Your information will not be saved.</source>
+        <translation>Möchten Sie diese Quittung wirklich verwerfen?  Ihre Angaben werden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Cancel Receipt</source>
+        <translation>Quittung verwerfen</translation>
+    </message>
 </context>
 <context>
     <name>frmReports</name>
