@@ -32,11 +32,11 @@ constexpr double toMillimetres(double dots) {
     return dots * ReportText::kMillimetresPerInch / kMeasureDpi;
 }
 
-QFont fontOf(const ReportFontSpec &spec, const ReportFontSpec &reportFont) {
-    QFont font(spec.family.isEmpty() ? reportFont.family : spec.family);
-    font.setPointSizeF(spec.size > 0 ? spec.size : reportFont.size);
-    font.setBold(spec.bold);
-    font.setItalic(spec.italic);
+QFont fontOf(const ReportFont &wanted, const ReportFont &reportFont) {
+    QFont font(wanted.family.isEmpty() ? reportFont.family : wanted.family);
+    font.setPointSizeF(wanted.size > 0 ? wanted.size : reportFont.size);
+    font.setBold(wanted.bold);
+    font.setItalic(wanted.italic);
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

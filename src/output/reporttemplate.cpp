@@ -30,7 +30,7 @@ QString joinedText(const QJsonValue &value) {
     return lines.join(u'\n');
 }
 
-ReportFontSpec readFont(const QJsonObject &object) {
+ReportFont readFont(const QJsonObject &object) {
     return {object.value(u"family").toString(), object.value(u"size").toDouble(),
             object.value(u"bold").toBool(), object.value(u"italic").toBool()};
 }
@@ -109,12 +109,12 @@ ReportBand readBand(const QJsonObject &object, const QString &path) {
     return band;
 }
 
-ReportPageSpec readPage(const QJsonObject &object) {
-    ReportPageSpec page;
+ReportPageSetup readPage(const QJsonObject &object) {
+    ReportPageSetup page;
     const QString paper = object.value(u"paper").toString(u"A4"_s);
-    page.paper = paper == u"Letter"   ? ReportPageSpec::Paper::Letter
-                 : paper == u"Roll80" ? ReportPageSpec::Paper::Roll80
-                                      : ReportPageSpec::Paper::A4;
+    page.paper = paper == u"Letter"   ? ReportPageSetup::Paper::Letter
+                 : paper == u"Roll80" ? ReportPageSetup::Paper::Roll80
+                                      : ReportPageSetup::Paper::A4;
     page.landscape = object.value(u"orientation").toString() == u"landscape";
     const QJsonArray margins = object.value(u"margins").toArray();
     if (margins.size() == 4) {
@@ -138,7 +138,7 @@ ReportParameter readParameter(const QJsonObject &object) {
 
 } // namespace
 
-QSizeF ReportPageSpec::size() const {
+QSizeF ReportPageSetup::size() const {
     if (paper == Paper::Roll80)
         return {80, 0};
     const QSizeF portrait = QPageSize(paper == Paper::Letter ? QPageSize::Letter : QPageSize::A4)
@@ -167,7 +167,7 @@ ReportTemplate ReportTemplate::parse(const QByteArray &json, const QString &path
     if (report.name.isEmpty())
         fail(path, QCoreApplication::translate("ReportTemplate", "has no name."));
     report.page = readPage(root.value(u"page").toObject());
-    const ReportFontSpec font = readFont(root.value(u"font").toObject());
+    const ReportFont font = readFont(root.value(u"font").toObject());
     if (!font.family.isEmpty())
         report.font.family = font.family;
     if (font.size > 0)

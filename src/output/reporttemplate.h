@@ -10,7 +10,7 @@
 // asked before rendering, the data sets and the bands. reports/FORMAT.md
 // describes the file. All lengths are millimetres, font sizes points.
 
-struct ReportFontSpec {
+struct ReportFont {
     QString family;
     double size = 0; // 0: the report's own size
     bool bold = false;
@@ -25,7 +25,7 @@ struct ReportElement {
     QString format;    // "money", "amount", "number:#,##0", "date:mm/dd/yyyy"
     QString condition; // empty, or a flag or value name, "!" in front to negate
     Qt::Alignment align = Qt::AlignLeft | Qt::AlignVCenter;
-    ReportFontSpec font;
+    ReportFont font;
     QColor color = Qt::black;
     QColor fill; // Box only; invalid for none
     double lineWidth = 0.25;
@@ -62,7 +62,7 @@ struct ReportParameter {
     QString defaultValue; // "today", "monthStart", "monthEnd", "yearStart" or a fixed text
 };
 
-struct ReportPageSpec {
+struct ReportPageSetup {
     enum class Paper { A4, Letter, Roll80 };
     Paper paper = Paper::A4;
     bool landscape = false;
@@ -76,8 +76,8 @@ struct ReportPageSpec {
 class ReportTemplate {
 public:
     QString name;
-    ReportPageSpec page;
-    ReportFontSpec font{QStringLiteral("DejaVu Sans"), 9, false, false};
+    ReportPageSetup page;
+    ReportFont font{QStringLiteral("DejaVu Sans"), 9, false, false};
     QList<ReportParameter> parameters;
     QList<ReportDataSet> dataSets;
     QString detailData; // the data set the detail band runs over
