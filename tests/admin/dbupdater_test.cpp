@@ -59,6 +59,18 @@ protected:
         setConnectionString(path);
         return path;
     }
+    // Runs `sql` on the file at `path` and commits it.
+    static void runOn(const QString &path, const QString &sql, const db::Params &values = {}) {
+        db::Transaction transaction(path);
+        db::execute(sql, values);
+        transaction.commit();
+    }
+    // Closes and deletes the file and its backup, for the next case of a loop.
+    static void discard(const QString &path) {
+        db::closeConnection();
+        QFile::remove(path);
+        QFile::remove(path + u".bak"_s);
+    }
     QString dbVersion(const QString &path) {
         return rowsOf(path, u"SELECT dbVersion FROM tblSystem"_s);
     }
@@ -137,27 +149,17 @@ INSTANTIATE_TEST_SUITE_P(, UpgradeFromEveryVersion, ::testing::ValuesIn(olddatab
 TEST_F(UpgradeTest, VersionsOutsideTheChain) {
     for (const QString &found : {u"4.1.0"_s, u"10.0"_s}) {
         const QString path = openOld(u"4.1.2"_s);
-        {
-            db::Transaction transaction(path);
-            db::execute(u"UPDATE tblSystem SET dbVersion = ?"_s, {found});
-            transaction.commit();
-        }
+        runOn(path, u"UPDATE tblSystem SET dbVersion = ?"_s, {found});
         EXPECT_TRUE(dbUpdater::updateDatabase());
         EXPECT_EQ(dbVersion(path), u"4.2.5"_s) << found.toStdString();
         EXPECT_FALSE(schemaOf(path).join(u' ').contains(u"canRunReports"_s));
         EXPECT_EQ(boxes().lines().last(), updatedBox(path));
-        db::closeConnection();
-        QFile::remove(path);
-        QFile::remove(path + u".bak"_s);
+        discard(path);
     }
     boxes().shown.clear();
 
     const QString path = openOld(u"4.2.4"_s);
-    {
-        db::Transaction transaction(path);
-        db::execute(u"UPDATE tblSystem SET dbVersion = '4.3'"_s);
-        transaction.commit();
-    }
+    runOn(path, u"UPDATE tblSystem SET dbVersion = '4.3'"_s);
     const QByteArray before = fileBytes(path);
     EXPECT_TRUE(dbUpdater::updateDatabase());
     EXPECT_EQ(fileBytes(path), before);
@@ -211,11 +213,7 @@ TEST_F(UpgradeTest, FailureHalfWayLeavesTheFileAsItWas) {
     };
     for (const auto &test : cases) {
         const QString path = openOld(QString::fromLatin1(test.version));
-        {
-            db::Transaction transaction(path);
-            db::execute(QString::fromLatin1(test.obstacle));
-            transaction.commit();
-        }
+        runOn(path, QString::fromLatin1(test.obstacle));
         const QByteArray before = fileBytes(path);
 
         EXPECT_FALSE(dbUpdater::updateDatabase());
@@ -230,9 +228,7 @@ TEST_F(UpgradeTest, FailureHalfWayLeavesTheFileAsItWas) {
 
         boxes().shown.clear();
         process().endProcessCalls = 0;
-        db::closeConnection();
-        QFile::remove(path);
-        QFile::remove(path + u".bak"_s);
+        discard(path);
     }
 }
 

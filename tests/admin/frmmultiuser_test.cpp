@@ -56,7 +56,7 @@ protected:
     frmMultiUser *screen = nullptr;      // the one the helpers act on
 };
 
-TEST_F(MultiUserTest, LoadsTheSettingsAndTheWizardOffersOnlyTheShare) {
+TEST_F(MultiUserTest, LoadsTheSettingsRemovesTheLockAndTheWizardOffersOnlyTheShare) {
     session().useSharedFile = true;
     session().shareFileLocation = shareFile;
     open();
@@ -64,6 +64,15 @@ TEST_F(MultiUserTest, LoadsTheSettingsAndTheWizardOffersOnlyTheShare) {
     EXPECT_TRUE(button(u"optSharedOn"_s)->isChecked());
     EXPECT_EQ(location()->text(), share);
     EXPECT_FALSE(button(u"cmdOK"_s)->isEnabled());
+    click(u"cmdRemoveLock"_s);
+    EXPECT_EQ(boxes().lines().last(),
+              u"No lock file | A lock file was not found for %1 | Information"_s.arg(shareFile));
+    QFile lock(shareFile + u".lck"_s);
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    click(u"cmdRemoveLock"_s);
+    EXPECT_EQ(boxes().lines().last(), u"Success | Lock file removed. | Information"_s);
+    EXPECT_FALSE(lock.exists());
     click(u"optSharedOff"_s);
     EXPECT_FALSE(location()->isEnabled());
     EXPECT_TRUE(button(u"cmdOK"_s)->isEnabled());
@@ -155,22 +164,6 @@ TEST_F(MultiUserTest, CopiesTheStandAloneFileAndAsksBeforeOverwriting) {
     EXPECT_EQ(receiptsIn(shareFile), 2);
     EXPECT_EQ(setting(SettingsKey::shareFileLocation), shareFile);
     EXPECT_EQ(process().restartCalls, 3);
-}
-
-TEST_F(MultiUserTest, RemovesTheShareFileLock) {
-    session().useSharedFile = true;
-    session().shareFileLocation = shareFile;
-    open();
-    click(u"cmdRemoveLock"_s);
-    EXPECT_EQ(boxes().lines().last(),
-              u"No lock file | A lock file was not found for %1 | Information"_s.arg(shareFile));
-
-    QFile lock(shareFile + u".lck"_s);
-    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
-    lock.close();
-    click(u"cmdRemoveLock"_s);
-    EXPECT_EQ(boxes().lines().last(), u"Success | Lock file removed. | Information"_s);
-    EXPECT_FALSE(lock.exists());
 }
 
 } // namespace

@@ -49,7 +49,7 @@ protected:
     std::unique_ptr<frmNewCompany> wizard;
 };
 
-TEST_F(WizardTest, PagesGoBackAndForthAndCancelAsks) {
+TEST_F(WizardTest, PagesGoBackAndForthSharedDatabaseAndCancelAsks) {
     open();
     EXPECT_EQ(wizard->windowTitle(), u"New Company Setup"_s);
     EXPECT_EQ(controlsWithoutAccessibleName(*wizard), QStringList());
@@ -70,6 +70,13 @@ TEST_F(WizardTest, PagesGoBackAndForthAndCancelAsks) {
     }
     clickOption(u"optSecurity1"_s);
     EXPECT_TRUE(text(u"txtPassword"_s)->isEnabled());
+    driveModal<frmMultiUser>(
+        [&] { click(*wizard, u"cmdShard"_s); },
+        [](frmMultiUser &multiUser) {
+            EXPECT_TRUE(multiUser.fromWizard);
+            EXPECT_TRUE(control<QRadioButton>(multiUser, u"optSharedOff"_s)->isHidden());
+            multiUser.reject();
+        });
 
     // No keeps the page and the fields; Yes ends the program, the mark unset.
     text(u"txtName"_s)->setText(u"Ann's"_s);
@@ -87,18 +94,6 @@ TEST_F(WizardTest, PagesGoBackAndForthAndCancelAsks) {
     EXPECT_FALSE(wizard->isVisible());
     EXPECT_EQ(process().endProgramCalls, 1);
     EXPECT_EQ(Utility::RegGetString(SettingsKey::firstRun), u""_s);
-}
-
-TEST_F(WizardTest, UseSharedDatabaseOpensTheMultiUserScreenForTheWizard) {
-    open();
-    driveModal<frmMultiUser>(
-        [&] { click(*wizard, u"cmdShard"_s); },
-        [](frmMultiUser &multiUser) {
-            EXPECT_TRUE(multiUser.fromWizard);
-            EXPECT_TRUE(control<QRadioButton>(multiUser, u"optSharedOff"_s)->isHidden());
-            multiUser.reject();
-        });
-    EXPECT_TRUE(wizard->isVisible());
 }
 
 // The checks in their order, then an open system: no account.
