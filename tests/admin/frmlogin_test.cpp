@@ -40,7 +40,6 @@ TEST_F(LoginTest, OnlyAnActiveAccountWithItsPasswordLogsIn) {
         [] { frmLogin().exec(); },
         [](frmLogin &login) {
             EXPECT_EQ(login.windowTitle(), u"Brisko Login"_s);
-            EXPECT_EQ(controlsWithoutAccessibleName(login), QStringList());
             QTest::keyClick(control<QLineEdit>(login, u"txtUsername"_s), Qt::Key_Return);
             EXPECT_EQ(login.focusWidget(), control<QLineEdit>(login, u"txtPassword"_s));
             QTest::keyClick(&login, Qt::Key_Escape);
