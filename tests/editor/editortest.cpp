@@ -40,13 +40,6 @@ qint32 EditorTest::addCustomer(const QString &name, const QString &city, const Q
     return customer.payeeID;
 }
 
-qint32 EditorTest::addService(const QString &shortName, const QString &longDesc, const char *cost) {
-    return qint32(db::insertReturningKey(
-        u"INSERT INTO tblService (shortName, longDesc, defaultCost) "
-        "VALUES (?, ?, ?) RETURNING serviceID"_s,
-        {shortName, longDesc, Currency::fromText(QString::fromLatin1(cost))}));
-}
-
 qint32 EditorTest::addProduct(const QString &sku, const char *cost) {
     return qint32(db::insertReturningKey(
         u"INSERT INTO tblProduct (productName, productSKU, cost, productStatus, productDesc) "
@@ -102,8 +95,8 @@ QString EditorTest::enabled(const QWidget &screen, const QStringList &names) {
     QString states;
     for (const QString &name : names) {
         const QAction *tool = screen.findChild<QAction *>(name);
-        const bool on = tool ? tool->isEnabled() : control<QWidget>(screen, name)->isEnabled();
-        states += on ? u'1' : u'0';
+        states +=
+            (tool ? tool->isEnabled() : control<QWidget>(screen, name)->isEnabled()) ? u'1' : u'0';
     }
     return states;
 }

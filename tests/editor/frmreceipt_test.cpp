@@ -1,6 +1,4 @@
-// The receipt editor's kinds and states: a new receipt with the company's
-// defaults, a stored receipt in view and edit, and what switches with the
-// receipt type, the payment type and the company's settings.
+// The receipt editor's kinds and states, new or stored, in view and edit.
 
 #include "admin/systemuser.h"
 #include "app/company.h"
@@ -38,13 +36,12 @@ QStringList entriesOf(const QComboBox *list) {
 
 using ReceiptEditorTest = EditorTest;
 
-// A new receipt opens in the company's default kind, with every field open
-// and only the save tools on.
 TEST_F(ReceiptEditorTest, ANewReceiptOpensInTheDefaultKindWithTheCompanysSettings) {
     company().taxRate = 6.5;
     company().otherFieldName = u"Shipping"_s;
     company().customField2 = u"PO Number"_s;
-    addService(u"Repair"_s, u"Repair of one bicycle"_s, "1234.5");
+    db::execute(u"INSERT INTO tblService (shortName, longDesc, defaultCost) "
+                "VALUES ('Repair', 'Repair of one bicycle', 12345000)"_s);
     const struct {
         qint16 type;
         QString views, caption;
@@ -103,7 +100,6 @@ TEST_F(ReceiptEditorTest, ANewReceiptOpensInTheDefaultKindWithTheCompanysSetting
     EXPECT_TRUE(boxes().shown.isEmpty());
 }
 
-// With logins on, a new receipt is received by the logged-in user.
 TEST_F(ReceiptEditorTest, WithLoginsOnTheReceiverIsTheLoggedInUser) {
     company().restrictAccess = true;
     company().defaultPaymentType = 2;
@@ -114,8 +110,8 @@ TEST_F(ReceiptEditorTest, WithLoginsOnTheReceiverIsTheLoggedInUser) {
     EXPECT_EQ(seen, u"ann | Check | Check #:0"_s);
 }
 
-// A stored product receipt shows its lines, its customer and the balance
-// stored with it, closed for typing; the tax is worked out anew.
+// A stored receipt shows its stored balance, closed for typing; the tax is
+// worked out anew. Edit and void follow the user's rights.
 TEST_F(ReceiptEditorTest, AStoredProductReceiptShowsItsLinesAndOpensForEditingByRight) {
     company().taxRate = 10;
     company().customField1 = u"PO Number"_s;
@@ -127,7 +123,7 @@ TEST_F(ReceiptEditorTest, AStoredProductReceiptShowsItsLinesAndOpensForEditingBy
                    [](Receipt &receipt) {
                        receipt.receiptNumber = u"R-0042"_s;
                        receipt.receiptType = Receipt::ProductReceipt;
-                       receipt.paymentType = 2; // Check
+                       receipt.paymentType = 2;
                        receipt.checkNumber = u"1001"_s;
                        receipt.amountTax = Currency::fromText(u"3"_s);
                        receipt.amountReceived = Currency::fromText(u"30"_s);
@@ -155,8 +151,6 @@ TEST_F(ReceiptEditorTest, AStoredProductReceiptShowsItsLinesAndOpensForEditingBy
               "Check #: | 1001 | bob | PO-7 | 22.99 | 2.30 | 25.29 | -4.71 | 111100"
               "000000000"_s.arg(customer));
 
-    // Edit and void follow the user's rights; editing opens the fields and
-    // the save that closes.
     session().currentUser = userWith(u"cy"_s, 0, 1);
     EXPECT_EQ(withEditor(id, [](frmReceipt &screen) { return enabled(screen, kTools); }),
               u"110100"_s);
@@ -168,6 +162,20 @@ TEST_F(ReceiptEditorTest, AStoredProductReceiptShowsItsLinesAndOpensForEditingBy
     });
     EXPECT_EQ(edited, u"111000 111001111111111"_s);
     EXPECT_TRUE(boxes().shown.isEmpty());
+
+    // The caller may ask for the edit state, with both saves; the link
+    // discards the screen unsaved.
+    session().currentUser = userWith(u"ann"_s, 1, 1);
+    const QString begun =
+        driveModal<frmReceipt>([id] { EXPECT_FALSE(ScreenLinks::openReceipt(nullptr, id)); },
+                               [](frmReceipt &screen) {
+                                   screen.beginEdit();
+                                   const QString states =
+                                       enabled(screen, kTools) + enabled(screen, kFields);
+                                   screen.reject();
+                                   return states;
+                               });
+    EXPECT_EQ(begun, u"111111111111111"_s);
 }
 
 // A void receipt says so in its title and reason and cannot be edited or
@@ -228,78 +236,38 @@ TEST_F(ReceiptEditorTest, VoidPaymentsAndOpeningBalancesShowWhatTheyAre) {
     EXPECT_TRUE(boxes().shown.isEmpty());
 }
 
-// The caller asks for the edit state; the link opens and discards the screen.
-TEST_F(ReceiptEditorTest, BeginEditOpensTheFieldsAndBothSaves) {
-    const qint32 id = addReceipt(addCustomer(u"Cy"_s),
-                                 [](Receipt &receipt) { receipt.receiptNumber = u"E-1"_s; });
-    const QString seen =
-        driveModal<frmReceipt>([id] { EXPECT_FALSE(ScreenLinks::openReceipt(nullptr, id)); },
-                               [](frmReceipt &screen) {
-                                   screen.beginEdit();
-                                   const QString states =
-                                       enabled(screen, kTools) + enabled(screen, kFields);
-                                   screen.reject();
-                                   return states;
-                               });
-    EXPECT_EQ(seen, u"111111111111111"_s);
-}
-
-// Print and Print Preview send the shown receipt out through the receipt
-// output; a new receipt has nothing to print yet.
-class ReceiptOutputTest : public EditorTest {
-protected:
-    class Recording final : public ReportDelivery {
-    public:
-        QStringList delivered; // "printer" or "screen", and the report's title
-        bool askParameters(const QString &, const QList<ReportParameter> &,
-                           QHash<QString, QVariant> &) override {
-            return true;
-        }
-        void toPrinter(const RenderedReport &report) override {
-            delivered.append(u"printer "_s + report.title);
-        }
-        void toScreen(const RenderedReport &report) override {
-            delivered.append(u"screen "_s + report.title);
-        }
-        void toMail(const MailMessage &) override { delivered.append(u"mail"_s); }
-    };
-
-    void SetUp() override {
-        EditorTest::SetUp();
-        auto recording = std::make_unique<Recording>();
-        delivery = recording.get();
-        previous = installReportDelivery(std::move(recording));
+class Recording final : public ReportDelivery {
+public:
+    QStringList delivered;
+    bool askParameters(const QString &, const QList<ReportParameter> &,
+                       QHash<QString, QVariant> &) override {
+        return true;
     }
-    void TearDown() override {
-        installReportDelivery(std::move(previous));
-        EditorTest::TearDown();
-    }
-
-    Recording *delivery = nullptr;
-    std::unique_ptr<ReportDelivery> previous;
+    void toPrinter(const RenderedReport &) override { delivered.append(u"printer"_s); }
+    void toScreen(const RenderedReport &) override { delivered.append(u"screen"_s); }
+    void toMail(const MailMessage &) override { delivered.append(u"mail"_s); }
 };
 
-TEST_F(ReceiptOutputTest, PrintAndPreviewSendTheShownReceipt) {
+TEST_F(ReceiptEditorTest, PrintAndPreviewSendTheShownReceipt) {
+    auto owned = std::make_unique<Recording>();
+    Recording &recording = *owned;
+    std::unique_ptr<ReportDelivery> previous = installReportDelivery(std::move(owned));
     const qint32 id = addReceipt(addCustomer(u"Di"_s), [](Receipt &receipt) {
         receipt.receiptNumber = u"P-9"_s;
         receipt.receiptType = Receipt::ServiceReceipt;
-        receipt.receiptDesc = u"Tuning"_s;
     });
-    withEditor(id, [](frmReceipt &screen) {
-        screen.findChild<QAction *>(u"ID_Print"_s)->trigger();
-        screen.findChild<QAction *>(u"ID_PrintPreview"_s)->trigger();
-        screen.previewReceipt();
-        return 0;
-    });
-    ASSERT_EQ(delivery->delivered.size(), 3) << boxes().lines().join(u'\n').toStdString();
-    EXPECT_TRUE(delivery->delivered[0].startsWith(u"printer"_s));
-    EXPECT_TRUE(delivery->delivered[1].startsWith(u"screen"_s));
-    EXPECT_TRUE(delivery->delivered[2].startsWith(u"screen"_s));
-    withEditor(0, [](frmReceipt &screen) {
-        screen.findChild<QAction *>(u"ID_Print"_s)->trigger();
-        return 0;
-    });
-    EXPECT_EQ(delivery->delivered.size(), 3);
+    for (const qint32 receiptID : {id, 0})
+        withEditor(receiptID, [](frmReceipt &screen) {
+            screen.findChild<QAction *>(u"ID_Print"_s)->trigger();
+            screen.findChild<QAction *>(u"ID_PrintPreview"_s)->trigger();
+            if (screen.receiptID)
+                screen.previewReceipt();
+            return 0;
+        });
+    const QStringList delivered = recording.delivered;
+    installReportDelivery(std::move(previous));
+    EXPECT_EQ(delivered, (QStringList{u"printer"_s, u"screen"_s, u"screen"_s}))
+        << boxes().lines().join(u'\n').toStdString();
 }
 
 } // namespace

@@ -1,6 +1,4 @@
-// Finding the receipt's customer: the matches under the name as it is typed,
-// taken by keyboard or mouse, and the customer list as a picker when
-// matching is off.
+// Finding the receipt's customer by the matches under the name or the list.
 
 #include "app/company.h"
 #include "app/session.h"
@@ -122,8 +120,6 @@ TEST_F(CustomerMatchingTest, AClickTakesTheRowAndTheCloseImageLetsItGo) {
     EXPECT_EQ(seen, u"%1 | 1,234.50 | 1,234.50 / hidden /  | 0.00 | Ann O'Brien "_s.arg(obrien));
 }
 
-// A stored receipt fills the name without searching; once in the edit state
-// the name searches again.
 TEST_F(CustomerMatchingTest, AStoredReceiptSearchesOnlyWhenTheNameIsChanged) {
     const qint32 id = addReceipt(apple, [](Receipt &receipt) { receipt.receiptNumber = u"2"_s; });
     const QStringList seen = withEditor(id, [&](frmReceipt &screen) {
@@ -136,8 +132,6 @@ TEST_F(CustomerMatchingTest, AStoredReceiptSearchesOnlyWhenTheNameIsChanged) {
     EXPECT_EQ(seen, (QStringList{u"hidden"_s, u"Ann Apple"_s}));
 }
 
-// Without matching, the customer list opens once by itself on a new receipt
-// and again on a double click in the name.
 TEST_F(CustomerMatchingTest, WithoutMatchingTheCustomerListPicks) {
     company().useAutoComplete = false;
     frmReceipt screen;

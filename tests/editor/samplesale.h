@@ -4,8 +4,7 @@
 
 #include <QDateTime>
 
-// A sale as the receipt editor hands it over: a new customer buying three
-// lines of the products with keys 1 to 3, partly paid.
+// A new customer buying three lines of products 1 and 2, partly paid.
 inline ReceiptSave sampleSale(const QString &customer) {
     using namespace Qt::Literals::StringLiterals;
     ReceiptSave save;
@@ -30,23 +29,18 @@ inline ReceiptSave sampleSale(const QString &customer) {
     receipt.receiptDesc = u"not kept on a product receipt"_s;
     receipt.customField1 = customer;
 
-    const struct {
-        qint32 productID;
-        qint16 qty;
-        const char *cost;
-        const char *description;
-        const char *extDesc;
-    } rows[] = {{1, 3, "1.25", "Bolt", ""},
-                {2, 1, "12.5", "Lamp, the shop's own", "with bulb"},
-                {1, -1, "1.25", "Bolt returned", ""}};
-    for (const auto &row : rows) {
+    const auto addLine = [&](qint32 productID, qint16 qty, const QString &cost,
+                             const QString &description, const QString &extDesc = {}) {
         Product line;
-        line.productID = row.productID;
-        line.qty = row.qty;
-        line.cost = Currency::fromText(QString::fromUtf8(row.cost));
-        line.description = QString::fromUtf8(row.description);
-        line.extDesc = QString::fromUtf8(row.extDesc);
+        line.productID = productID;
+        line.qty = qty;
+        line.cost = Currency::fromText(cost);
+        line.description = description;
+        line.extDesc = extDesc;
         save.lines.append(line);
-    }
+    };
+    addLine(1, 3, u"1.25"_s, u"Bolt"_s);
+    addLine(2, 1, u"12.5"_s, u"Lamp, the shop's own"_s, u"with bulb"_s);
+    addLine(1, -1, u"1.25"_s, u"Bolt returned"_s);
     return save;
 }

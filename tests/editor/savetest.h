@@ -11,6 +11,13 @@ struct StoredRows {
     static int count(const QString &table) {
         return db::readFirst(u"SELECT COUNT(*) AS n FROM "_s + table)->int32(u"n"_s);
     }
+    // Customers, receipts, lines and the last number used, as "1 1 3 1".
+    static QString tally() {
+        return u"%1 %2 %3 %4"_s.arg(count(u"tblPayee"_s))
+            .arg(count(u"tblReceipt"_s))
+            .arg(count(u"tblReceipt_Product"_s))
+            .arg(lastNumberUsed());
+    }
     static qint32 lastNumberUsed() {
         return db::readFirst(u"SELECT lastNumberUsed FROM tblReceiptNumbering "
                              "WHERE receiptYear = '13'"_s)
