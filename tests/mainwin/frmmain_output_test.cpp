@@ -17,17 +17,6 @@ namespace {
 
 class MainWindowOutputTest : public ReportOutputTest {
 protected:
-    // Where each delivery went and its title or addressee, in order.
-    QStringList deliveries() {
-        QStringList out;
-        for (const Delivered &each : delivery().delivered) {
-            out.append(each.where == Delivered::Where::Printer  ? u"printer "_s + each.report.title
-                       : each.where == Delivered::Where::Screen ? u"screen "_s + each.report.title
-                                                                : u"mail "_s + each.mail.to);
-        }
-        return out;
-    }
-
     void SetUp() override {
         ReportOutputTest::SetUp();
         window = std::make_unique<frmMain>();

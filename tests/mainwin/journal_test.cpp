@@ -11,10 +11,7 @@
 #include "mainwin/frmmain.h"
 #include "mainwin/frmreprint.h"
 #include "mainwin/frmvoid.h"
-#include "output/reportdelivery.h"
-#include "output/reportlayout.h"
-#include "receipts/receipt.h"
-#include "support/briskotest.h"
+#include "reportoutputtest.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -33,30 +30,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Notes where each receipt went, by its report title.
-class NotingDelivery final : public ReportDelivery {
-public:
-    QStringList *notes = nullptr;
-    bool askParameters(const QString &, const QList<ReportParameter> &,
-                       QHash<QString, QVariant> &) override {
-        return true;
-    }
-    void toPrinter(const RenderedReport &report) override {
-        notes->append(u"printer: "_s + report.title);
-    }
-    void toScreen(const RenderedReport &report) override {
-        notes->append(u"screen: "_s + report.title);
-    }
-    void toMail(const MailMessage &) override {}
-};
-
-class JournalTest : public BriskoTest {
+class JournalTest : public ReportOutputTest {
 protected:
     void SetUp() override {
-        BriskoTest::SetUp();
-        auto delivery = std::make_unique<NotingDelivery>();
-        delivery->notes = &printed;
-        m_previous = installReportDelivery(std::move(delivery));
+        ReportOutputTest::SetUp();
         window = std::make_unique<frmMain>();
         window->load();
         obrien = addCustomer(u"Pat O'Brien"_s);
@@ -64,16 +41,7 @@ protected:
     }
     void TearDown() override {
         window.reset();
-        installReportDelivery(std::move(m_previous));
-        BriskoTest::TearDown();
-    }
-
-    static qint32 addCustomer(const QString &name) {
-        return qint32(db::insertReturningKey(
-            u"INSERT INTO tblPayee (payeeName, address1, address2, city, state, zip, phone, "
-            "email) VALUES (?, '1 Elm St', '', 'Dover', 'NH', '03820', '555-0100', '') "
-            "RETURNING payeeID"_s,
-            {name}));
+        ReportOutputTest::TearDown();
     }
 
     static qint32 addReceipt(const QString &number, const QDate &day, qint32 payeeID,
@@ -127,12 +95,8 @@ protected:
     }
 
     std::unique_ptr<frmMain> window;
-    QStringList printed;
     qint32 obrien = 0;
     qint32 cotton = 0;
-
-private:
-    std::unique_ptr<ReportDelivery> m_previous;
 };
 
 TEST_F(JournalTest, OpensOnAllDatesWithNothingSearchedAndListsEveryReceipt) {
@@ -180,7 +144,7 @@ TEST_F(JournalTest, FiltersByDatesNameNumberAndOpeningBalances) {
     addReceipt(u"26-002"_s, QDate(2026, 3, 2), cotton);
     addReceipt(u"26-003"_s, QDate(2026, 3, 3), obrien);
     addReceipt(u"Opening Balance"_s, QDate(2026, 3, 2), obrien, 0, 0, Receipt::OpeningBalance);
-    onJournal([](frmJournal &journal) {
+    onJournal([this](frmJournal &journal) {
         auto *allDates = control<QCheckBox>(journal, u"chkAllDates"_s);
         allDates->click();
         EXPECT_TRUE(control<QDateEdit>(journal, u"txtEndDate"_s)->isEnabled());
@@ -208,8 +172,17 @@ TEST_F(JournalTest, FiltersByDatesNameNumberAndOpeningBalances) {
         EXPECT_EQ(numbers(journal), QStringList{u"26-003"_s});
         search(journal, {}, u"o'"_s);
         EXPECT_TRUE(numbers(journal).isEmpty());
+        EXPECT_TRUE(boxes().shown.isEmpty());
+
+        // A receipt whose customer is gone ends the list at its row with the box.
+        db::execute(u"DELETE FROM tblPayee WHERE payeeID = ?"_s, {cotton});
+        search(journal);
+        EXPECT_EQ(numbers(journal), QStringList{u"26-001"_s});
+        EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
     });
-    EXPECT_TRUE(boxes().shown.isEmpty());
+    EXPECT_EQ(boxes().lines(),
+              QStringList{u"Error | frmJournal.getReceipts:  Receipt.getReceipts:  "
+                          "Invalid use of Null | Critical"_s});
 }
 
 // The custom terms count only in the search their dialog starts.
@@ -301,7 +274,7 @@ TEST_F(JournalTest, PopupCommandsActOnTheSelectedReceipt) {
         EXPECT_TRUE(triggerPopupEntry(list, u"mnuDelete"_s));
         EXPECT_EQ(numbers(journal), (QStringList{u"26-002"_s, u"26-003"_s}));
     });
-    EXPECT_EQ(printed, (QStringList{u"printer: Receipt 26-002"_s, u"screen: Receipt 26-002"_s}));
+    EXPECT_EQ(deliveries(), (QStringList{u"printer Receipt 26-002"_s, u"screen Receipt 26-002"_s}));
     EXPECT_EQ(db::readFirst(u"SELECT COUNT(*) AS n FROM tblReceipt_Product"_s)->int32(u"n"_s), 0);
     EXPECT_EQ(db::readFirst(u"SELECT voidReason FROM tblReceipt WHERE receiptNumber = '26-002'"_s)
                   ->text(u"voidReason"_s),
@@ -342,22 +315,6 @@ TEST_F(JournalTest, RightsDecideDeleteAndStatus) {
     EXPECT_EQ(boxes().lines(),
               QStringList{u"Access Denied | Access Denied\nYour account does not have rights to "
                           "delete a receipt.  Please see your system administrator. | Critical"_s});
-}
-
-// A receipt whose customer is gone ends the list at its row with the box.
-TEST_F(JournalTest, AReceiptWithoutItsCustomerEndsTheList) {
-    addReceipt(u"26-001"_s, QDate(2026, 3, 1), obrien);
-    addReceipt(u"26-002"_s, QDate(2026, 3, 2), cotton);
-    addReceipt(u"26-003"_s, QDate(2026, 3, 3), obrien);
-    db::execute(u"DELETE FROM tblPayee WHERE payeeID = ?"_s, {cotton});
-    onJournal([](frmJournal &journal) {
-        search(journal);
-        EXPECT_EQ(numbers(journal), QStringList{u"26-001"_s});
-        EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
-    });
-    EXPECT_EQ(boxes().lines(),
-              QStringList{u"Error | frmJournal.getReceipts:  Receipt.getReceipts:  "
-                          "Invalid use of Null | Critical"_s});
 }
 
 // Pages follow each other in date and number order, the key settling ties,
@@ -467,8 +424,8 @@ TEST_F(JournalTest, ReprintTakesTheLastReceiptOrTheOneNamed) {
         number->setText(u"26-009"_s);
         click(dialog, u"cmdPrint"_s);
     });
-    EXPECT_EQ(printed, (QStringList{u"printer: Receipt 26-002"_s, u"screen: Receipt 26-001"_s,
-                                    u"screen: Receipt 26-002"_s}));
+    EXPECT_EQ(deliveries(), (QStringList{u"printer Receipt 26-002"_s, u"screen Receipt 26-001"_s,
+                                         u"screen Receipt 26-002"_s}));
     EXPECT_EQ(
         boxes().lines(),
         (QStringList{u"Print Receipt | No receipts were found in the database. | Exclamation"_s,

@@ -62,6 +62,16 @@ void ReportOutputTest::TearDown() {
     BriskoTest::TearDown();
 }
 
+QStringList ReportOutputTest::deliveries() const {
+    QStringList out;
+    for (const Delivered &each : m_delivery->delivered) {
+        out.append(each.where == Delivered::Where::Printer  ? u"printer "_s + each.report.title
+                   : each.where == Delivered::Where::Screen ? u"screen "_s + each.report.title
+                                                            : u"mail "_s + each.mail.to);
+    }
+    return out;
+}
+
 qint32 ReportOutputTest::addCustomer(const QString &name, const QString &email) {
     return qint32(db::insertReturningKey(
         u"INSERT INTO tblPayee (payeeName, address1, address2, city, state, zip, phone, email) "

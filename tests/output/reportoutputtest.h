@@ -38,6 +38,8 @@ protected:
     void TearDown() override;
 
     RecordingDelivery &delivery() { return *m_delivery; }
+    // Where each delivery went with its title or addressee, in order: "printer Receipt 7".
+    QStringList deliveries() const;
 
     // A customer with a full address; gives its key.
     static qint32 addCustomer(const QString &name, const QString &email = {});
