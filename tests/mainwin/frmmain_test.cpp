@@ -295,7 +295,23 @@ TEST_F(MainWindowTest, RightsOfTheAnonymousAndTheLoggedInUserSwitchTheTools) {
 }
 
 // A tool shows only once it has a command: no dead buttons.
-TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
+TEST_F(MainWindowTest, ToolsShowOnlyWithACommandHelpOpensTheManualAndExitEnds) {
+    // "Contents", and F1 wherever the user is, open the manual in the browser.
+    Manual::installHelpKey(*QCoreApplication::instance());
+    window->tool(u"ID_Contents"_s)->trigger();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window.get(), Qt::Key_F1);
+
+    QDialog screen;
+    auto *field = new QLineEdit(&screen);
+    screen.show();
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_F1);
+    EXPECT_EQ(process().opened, QList<QUrl>(3, Manual::contentsPage()));
+    EXPECT_TRUE(Manual::contentsPage().toLocalFile().endsWith(u"/manual/index.html"_s));
+    process().opened.clear();
+
     EXPECT_EQ(controlsWithoutAccessibleName(*window), QStringList());
     EXPECT_EQ(entriesOf(window->findChild<QMenuBar *>(u"ToolBar2"_s)),
               (QStringList{u"&File"_s, u"&Tools"_s, u"&Reports"_s, u"&Help"_s}));
@@ -343,23 +359,6 @@ TEST_F(MainWindowTest, ToolsShowOnlyWithACommandAndExitEndsTheProgram) {
     EXPECT_EQ(process().endProgramCalls, 2);
     EXPECT_EQ(process().endProcessCalls, 0);
     EXPECT_TRUE(boxes().shown.isEmpty()) << "no question on the way out";
-}
-
-// "Contents", and F1 wherever the user is, open the manual in the browser.
-TEST_F(MainWindowTest, HelpOpensTheManualFromEveryWindow) {
-    Manual::installHelpKey(*QCoreApplication::instance());
-    window->tool(u"ID_Contents"_s)->trigger();
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    QTest::keyClick(window.get(), Qt::Key_F1);
-
-    QDialog screen;
-    auto *field = new QLineEdit(&screen);
-    screen.show();
-    field->setFocus();
-    QTest::keyClick(field, Qt::Key_F1);
-    EXPECT_EQ(process().opened, QList<QUrl>(3, Manual::contentsPage()));
-    EXPECT_TRUE(Manual::contentsPage().toLocalFile().endsWith(u"/manual/index.html"_s));
 }
 
 // Refused in multi-user mode; cancelled or failed, it ends without a word.
