@@ -80,13 +80,6 @@ qint32 ReportOutputTest::addCustomer(const QString &name, const QString &email) 
         {name, email}));
 }
 
-qint32 ReportOutputTest::addProduct(const QString &sku, const QString &name) {
-    return qint32(db::insertReturningKey(
-        u"INSERT INTO tblProduct (productName, productSKU, cost, productStatus, productDesc) "
-        "VALUES (?, ?, 0, 1, '') RETURNING productID"_s,
-        {name, sku}));
-}
-
 qint32 ReportOutputTest::addProductReceipt(const QString &number, const QDateTime &date,
                                            qint32 payeeID, const QList<Line> &lines,
                                            qint16 status) {
@@ -106,9 +99,13 @@ qint32 ReportOutputTest::addProductReceipt(const QString &number, const QDateTim
     receipt.amountReceived = receipt.amountDue + receipt.amountTax;
     receipt.writeReceipt();
     for (const Line &line : lines) {
-        Receipt().writeReceiptProducts(receipt.receiptID, addProduct(line.sku, line.description),
-                                       line.quantity, Currency::fromDouble(line.price),
-                                       line.description, line.extDesc);
+        const auto productID = db::insertReturningKey(
+            u"INSERT INTO tblProduct (productName, productSKU, cost, productStatus, productDesc) "
+            "VALUES (?, ?, 0, 1, '') RETURNING productID"_s,
+            {line.description, line.sku});
+        Receipt().writeReceiptProducts(receipt.receiptID, qint32(productID), line.quantity,
+                                       Currency::fromDouble(line.price), line.description,
+                                       line.extDesc);
     }
     transaction.commit();
     return receipt.receiptID;

@@ -43,7 +43,6 @@ protected:
 
     // A customer with a full address; gives its key.
     static qint32 addCustomer(const QString &name, const QString &email = {});
-    static qint32 addProduct(const QString &sku, const QString &name);
     // A product receipt of the given lines ("sku", quantity, price) written
     // as the editor writes it; gives its key.
     struct Line {
