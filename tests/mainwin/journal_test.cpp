@@ -1,5 +1,6 @@
 // The receipt journal with its custom search, the status change and the
-// reprint, opened from the main window as a person opens them.
+// reprint, opened from the main window as a person opens them; and the main
+// window's other ways out to the receipt output.
 
 #include "admin/systemuser.h"
 #include "app/company.h"
@@ -11,10 +12,8 @@
 #include "mainwin/frmmain.h"
 #include "mainwin/frmreprint.h"
 #include "mainwin/frmvoid.h"
-#include "output/reportdelivery.h"
-#include "output/reportlayout.h"
-#include "receipts/receipt.h"
-#include "support/briskotest.h"
+#include "output/frmreports.h"
+#include "reportoutputtest.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -23,6 +22,8 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTableView>
@@ -33,30 +34,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Notes where each receipt went, by its report title.
-class NotingDelivery final : public ReportDelivery {
-public:
-    QStringList *notes = nullptr;
-    bool askParameters(const QString &, const QList<ReportParameter> &,
-                       QHash<QString, QVariant> &) override {
-        return true;
-    }
-    void toPrinter(const RenderedReport &report) override {
-        notes->append(u"printer: "_s + report.title);
-    }
-    void toScreen(const RenderedReport &report) override {
-        notes->append(u"screen: "_s + report.title);
-    }
-    void toMail(const MailMessage &) override {}
-};
-
-class JournalTest : public BriskoTest {
+class JournalTest : public ReportOutputTest {
 protected:
     void SetUp() override {
-        BriskoTest::SetUp();
-        auto delivery = std::make_unique<NotingDelivery>();
-        delivery->notes = &printed;
-        m_previous = installReportDelivery(std::move(delivery));
+        ReportOutputTest::SetUp();
         window = std::make_unique<frmMain>();
         window->load();
         obrien = addCustomer(u"Pat O'Brien"_s);
@@ -64,16 +45,7 @@ protected:
     }
     void TearDown() override {
         window.reset();
-        installReportDelivery(std::move(m_previous));
-        BriskoTest::TearDown();
-    }
-
-    static qint32 addCustomer(const QString &name) {
-        return qint32(db::insertReturningKey(
-            u"INSERT INTO tblPayee (payeeName, address1, address2, city, state, zip, phone, "
-            "email) VALUES (?, '1 Elm St', '', 'Dover', 'NH', '03820', '555-0100', '') "
-            "RETURNING payeeID"_s,
-            {name}));
+        ReportOutputTest::TearDown();
     }
 
     static qint32 addReceipt(const QString &number, const QDate &day, qint32 payeeID,
@@ -127,22 +99,23 @@ protected:
     }
 
     std::unique_ptr<frmMain> window;
-    QStringList printed;
     qint32 obrien = 0;
     qint32 cotton = 0;
-
-private:
-    std::unique_ptr<ReportDelivery> m_previous;
 };
 
-TEST_F(JournalTest, OpensOnAllDatesWithNothingSearchedAndListsEveryReceipt) {
-    addReceipt(u"26-002"_s, QDate(2026, 3, 2), obrien, 60, 40);
-    addReceipt(u"26-001"_s, QDate(2026, 3, 2), cotton, 0, 0, Receipt::ServiceReceipt);
-    addReceipt(u"00-001"_s, QDate(1900, 1, 1), cotton);
-    onJournal([](frmJournal &journal) {
+// Opens on all dates with nothing listed; then filters by dates, name, number
+// and opening balances; a receipt whose customer is gone ends the list.
+TEST_F(JournalTest, OpensEmptyThenFiltersByDatesNameNumberAndOpeningBalances) {
+    addReceipt(u"26-003"_s, QDate(2026, 3, 3), obrien, 60, 40);
+    addReceipt(u"26-002"_s, QDate(2026, 3, 2), cotton);
+    addReceipt(u"26-001"_s, QDate(2026, 3, 1), obrien, 10, 0, Receipt::ServiceReceipt);
+    addReceipt(u"00-001"_s, QDate(1900, 1, 1), obrien, 0, 0);
+    addReceipt(u"Opening Balance"_s, QDate(2026, 3, 2), obrien, 0, 0, Receipt::OpeningBalance);
+    onJournal([this](frmJournal &journal) {
         EXPECT_EQ(journal.windowTitle(), u"Receipt Journal"_s);
         EXPECT_EQ(controlsWithoutAccessibleName(journal), QStringList());
-        EXPECT_TRUE(control<QCheckBox>(journal, u"chkAllDates"_s)->isChecked());
+        auto *allDates = control<QCheckBox>(journal, u"chkAllDates"_s);
+        EXPECT_TRUE(allDates->isChecked());
         for (const QString &name : {u"txtStartDate"_s, u"txtEndDate"_s})
             EXPECT_FALSE(control<QDateEdit>(journal, name)->isEnabled());
         EXPECT_FALSE(control<QLabel>(journal, u"Label1"_s)->isEnabled());
@@ -151,37 +124,23 @@ TEST_F(JournalTest, OpensOnAllDatesWithNothingSearchedAndListsEveryReceipt) {
         EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
 
         search(journal);
-        EXPECT_EQ(numbers(journal), (QStringList{u"00-001"_s, u"26-001"_s, u"26-002"_s}));
+        EXPECT_EQ(numbers(journal),
+                  (QStringList{u"00-001"_s, u"26-001"_s, u"26-002"_s, u"26-003"_s}));
         QStringList headers, last;
         const QAbstractItemModel *model = hits(journal)->model();
         for (int section = 0; section < model->columnCount(); ++section) {
             headers.append(model->headerData(section, Qt::Horizontal).toString());
-            last.append(model->index(2, section).data().toString());
+            last.append(model->index(3, section).data().toString());
         }
         EXPECT_EQ(headers, (QStringList{u"Date"_s, u"Receipt No."_s, u"Customer Name"_s, u"Total"_s,
                                         u"Status"_s}));
-        EXPECT_EQ(last, (QStringList{Runtime::generalDate(QDateTime(QDate(2026, 3, 2), {})),
-                                     u"26-002"_s, u"Pat O'Brien"_s, u"100.00"_s, u"Issued"_s}));
-        EXPECT_EQ(model->index(1, 3).data().toString(), u".00"_s);
+        EXPECT_EQ(last, (QStringList{Runtime::generalDate(QDateTime(QDate(2026, 3, 3), {})),
+                                     u"26-003"_s, u"Pat O'Brien"_s, u"100.00"_s, u"Issued"_s}));
+        EXPECT_EQ(model->index(0, 3).data().toString(), u".00"_s);
         EXPECT_EQ(hits(journal)->currentIndex().row(), 0);
         EXPECT_TRUE(tool(journal, u"ID_Print"_s)->isEnabled());
         EXPECT_TRUE(tool(journal, u"ID_PrintPreview"_s)->isEnabled());
 
-        search(journal, u"nobody"_s);
-        EXPECT_EQ(hits(journal)->model()->rowCount(), 0);
-        EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
-        EXPECT_FALSE(tool(journal, u"ID_PrintPreview"_s)->isEnabled());
-    });
-    EXPECT_TRUE(boxes().shown.isEmpty());
-}
-
-TEST_F(JournalTest, FiltersByDatesNameNumberAndOpeningBalances) {
-    addReceipt(u"26-001"_s, QDate(2026, 3, 1), obrien);
-    addReceipt(u"26-002"_s, QDate(2026, 3, 2), cotton);
-    addReceipt(u"26-003"_s, QDate(2026, 3, 3), obrien);
-    addReceipt(u"Opening Balance"_s, QDate(2026, 3, 2), obrien, 0, 0, Receipt::OpeningBalance);
-    onJournal([](frmJournal &journal) {
-        auto *allDates = control<QCheckBox>(journal, u"chkAllDates"_s);
         allDates->click();
         EXPECT_TRUE(control<QDateEdit>(journal, u"txtEndDate"_s)->isEnabled());
         control<QDateEdit>(journal, u"txtStartDate"_s)->setDate(QDate(2026, 3, 2));
@@ -194,22 +153,34 @@ TEST_F(JournalTest, FiltersByDatesNameNumberAndOpeningBalances) {
         control<QCheckBox>(journal, u"openBal"_s)->setChecked(false);
         allDates->click();
 
-        // Part of a name, apostrophe and wildcards included, as typed.
-        search(journal, u"'bri"_s);
-        EXPECT_EQ(numbers(journal), (QStringList{u"26-001"_s, u"26-003"_s}));
-        search(journal, u"0%"_s);
-        EXPECT_EQ(numbers(journal), QStringList{u"26-002"_s});
-        search(journal, u"_"_s);
-        EXPECT_TRUE(numbers(journal).isEmpty());
-        // The number matches whole, in any case.
-        search(journal, {}, u"26-00"_s);
-        EXPECT_TRUE(numbers(journal).isEmpty());
-        search(journal, {}, u"26-003"_s);
-        EXPECT_EQ(numbers(journal), QStringList{u"26-003"_s});
-        search(journal, {}, u"o'"_s);
-        EXPECT_TRUE(numbers(journal).isEmpty());
+        // Part of a name, apostrophe and wildcards included, as typed; the
+        // number whole, in any case.
+        const struct {
+            QString name, number;
+            QStringList found;
+        } searches[] = {{u"'bri"_s, {}, {u"00-001"_s, u"26-001"_s, u"26-003"_s}},
+                        {u"0%"_s, {}, {u"26-002"_s}},
+                        {u"_"_s, {}, {}},
+                        {u"nobody"_s, {}, {}},
+                        {{}, u"26-00"_s, {}},
+                        {{}, u"26-003"_s, {u"26-003"_s}},
+                        {{}, u"o'"_s, {}}};
+        for (const auto &each : searches) {
+            search(journal, each.name, each.number);
+            EXPECT_EQ(numbers(journal), each.found) << each.name.toStdString();
+        }
+        EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
+        EXPECT_FALSE(tool(journal, u"ID_PrintPreview"_s)->isEnabled());
+        EXPECT_TRUE(boxes().shown.isEmpty());
+
+        db::execute(u"DELETE FROM tblPayee WHERE payeeID = ?"_s, {cotton});
+        search(journal);
+        EXPECT_EQ(numbers(journal), (QStringList{u"00-001"_s, u"26-001"_s}));
+        EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
     });
-    EXPECT_TRUE(boxes().shown.isEmpty());
+    EXPECT_EQ(boxes().lines(),
+              QStringList{u"Error | frmJournal.getReceipts:  Receipt.getReceipts:  "
+                          "Invalid use of Null | Critical"_s});
 }
 
 // The custom terms count only in the search their dialog starts.
@@ -301,7 +272,7 @@ TEST_F(JournalTest, PopupCommandsActOnTheSelectedReceipt) {
         EXPECT_TRUE(triggerPopupEntry(list, u"mnuDelete"_s));
         EXPECT_EQ(numbers(journal), (QStringList{u"26-002"_s, u"26-003"_s}));
     });
-    EXPECT_EQ(printed, (QStringList{u"printer: Receipt 26-002"_s, u"screen: Receipt 26-002"_s}));
+    EXPECT_EQ(deliveries(), (QStringList{u"printer Receipt 26-002"_s, u"screen Receipt 26-002"_s}));
     EXPECT_EQ(db::readFirst(u"SELECT COUNT(*) AS n FROM tblReceipt_Product"_s)->int32(u"n"_s), 0);
     EXPECT_EQ(db::readFirst(u"SELECT voidReason FROM tblReceipt WHERE receiptNumber = '26-002'"_s)
                   ->text(u"voidReason"_s),
@@ -344,22 +315,6 @@ TEST_F(JournalTest, RightsDecideDeleteAndStatus) {
                           "delete a receipt.  Please see your system administrator. | Critical"_s});
 }
 
-// A receipt whose customer is gone ends the list at its row with the box.
-TEST_F(JournalTest, AReceiptWithoutItsCustomerEndsTheList) {
-    addReceipt(u"26-001"_s, QDate(2026, 3, 1), obrien);
-    addReceipt(u"26-002"_s, QDate(2026, 3, 2), cotton);
-    addReceipt(u"26-003"_s, QDate(2026, 3, 3), obrien);
-    db::execute(u"DELETE FROM tblPayee WHERE payeeID = ?"_s, {cotton});
-    onJournal([](frmJournal &journal) {
-        search(journal);
-        EXPECT_EQ(numbers(journal), QStringList{u"26-001"_s});
-        EXPECT_FALSE(tool(journal, u"ID_Print"_s)->isEnabled());
-    });
-    EXPECT_EQ(boxes().lines(),
-              QStringList{u"Error | frmJournal.getReceipts:  Receipt.getReceipts:  "
-                          "Invalid use of Null | Critical"_s});
-}
-
 // Pages follow each other in date and number order, the key settling ties,
 // however many rows share a date or a number.
 TEST_F(JournalTest, TheListReadsOnAsTheViewScrolls) {
@@ -391,10 +346,10 @@ TEST_F(JournalTest, TheListReadsOnAsTheViewScrolls) {
 TEST_F(JournalTest, StatusChangesByNumberWithAReason) {
     addReceipt(u"26-001"_s, QDate::currentDate(), obrien);
     addReceipt(u"19-001"_s, QDate(2019, 5, 1), obrien);
-    const auto voidReason = [] {
-        return db::readFirst(u"SELECT status, voidReason FROM tblReceipt WHERE receiptNumber = "
-                             "'19-001'"_s)
-            .value();
+    const auto stored = [] {
+        const auto row = db::readFirst(
+            u"SELECT status, voidReason FROM tblReceipt WHERE receiptNumber = '19-001'"_s);
+        return std::pair(row->int32(u"status"_s), row->text(u"voidReason"_s));
     };
     const auto change = [&](int status, const QString &reason) {
         if (!reason.isNull())
@@ -415,11 +370,9 @@ TEST_F(JournalTest, StatusChangesByNumberWithAReason) {
                             });
     };
     change(2, u"Wrong customer"_s);
-    EXPECT_EQ(voidReason().int32(u"status"_s), 2);
-    EXPECT_EQ(voidReason().text(u"voidReason"_s), u"Wrong customer"_s);
+    EXPECT_EQ(stored(), std::pair(2, u"Wrong customer"_s));
     change(1, QString());
-    EXPECT_EQ(voidReason().int32(u"status"_s), 1);
-    EXPECT_EQ(voidReason().text(u"voidReason"_s), QString());
+    EXPECT_EQ(stored(), std::pair(1, QString()));
 
     driveModal<frmVoid>([&] { window->toolClick(u"ID_UpdateReceiptStatus"_s); },
                         [](frmVoid &dialog) {
@@ -467,13 +420,64 @@ TEST_F(JournalTest, ReprintTakesTheLastReceiptOrTheOneNamed) {
         number->setText(u"26-009"_s);
         click(dialog, u"cmdPrint"_s);
     });
-    EXPECT_EQ(printed, (QStringList{u"printer: Receipt 26-002"_s, u"screen: Receipt 26-001"_s,
-                                    u"screen: Receipt 26-002"_s}));
+    EXPECT_EQ(deliveries(), (QStringList{u"printer Receipt 26-002"_s, u"screen Receipt 26-001"_s,
+                                         u"screen Receipt 26-002"_s}));
     EXPECT_EQ(
         boxes().lines(),
         (QStringList{u"Print Receipt | No receipts were found in the database. | Exclamation"_s,
                      u"Unknown Receipt Number | Receipt number entered was not found.  "
                      "Please try again. | Exclamation"_s}));
+}
+
+// The list popup's print, preview and e-mail, the Reports menu and the Report Manager.
+using MainWindowOutputTest = JournalTest;
+
+// Each entry sends the selected row of the list the popup came from.
+TEST_F(MainWindowOutputTest, PopupPrintsPreviewsAndMailsTheSelectedReceipt) {
+    const QDateTime today(QDate::currentDate(), QTime(0, 0));
+    addProductReceipt(u"A-1"_s, today, addCustomer(u"Ann"_s, u"ann@example.org"_s), {});
+    addProductReceipt(u"A-2"_s, today, addCustomer(u"Bo"_s, u"bo@example.org"_s), {});
+    window->show();
+    window->refreshLists();
+    auto *sales = control<QTreeView>(*window, u"lstReceipts"_s);
+    sales->setCurrentIndex(sales->model()->index(1, 0));
+
+    EXPECT_TRUE(triggerPopupEntry(sales, u"mnuPrint"_s));
+    EXPECT_TRUE(
+        triggerPopupEntry(control<QTreeView>(*window, u"lstMonth"_s), u"mnuPrintPreview"_s));
+    company().mailServer.clear();
+    EXPECT_TRUE(triggerPopupEntry(sales, u"mnuEmail"_s));
+    company().mailServer = u"smtp.example.org"_s;
+    EXPECT_TRUE(triggerPopupEntry(sales, u"mnuEmail"_s));
+
+    EXPECT_EQ(deliveries(), (QStringList{u"printer Receipt A-2"_s, u"screen Receipt A-1"_s,
+                                         u"mail bo@example.org"_s}));
+    EXPECT_EQ(boxes().titles(), (QStringList{u"Email Settings Required"_s, u"Email Receipt"_s}));
+    EXPECT_EQ(boxes().lines().last(), u"Email Receipt | Receipt has been sent | Information"_s);
+}
+
+// Every ledger opens on the screen, the menu's caption not always its title.
+// The Report Manager has no menu entry; its id alone opens it.
+TEST_F(MainWindowOutputTest, ReportsMenuOpensEachLedgerAndTheManagerOpensByItsId) {
+    for (const char16_t *id :
+         {u"ID_ReceiptLedger", u"ID_ProductLedgerDetail", u"ID_ServiceLedgerDetail",
+          u"ID_RptService", u"ID_InventorySoldDetail"})
+        window->tool(QString::fromUtf16(id))->trigger();
+    EXPECT_EQ(deliveries(),
+              (QStringList{u"screen Receipt Ledger"_s, u"screen Inventory Sold Ledger"_s,
+                           u"screen Service Ledger"_s, u"screen Service Breakdown Report"_s,
+                           u"screen Inventory Sold Detail Ledger"_s}));
+
+    const int templates =
+        driveModal<frmReports>([&] { window->toolClick(u"ID_ReportManager"_s); },
+                               [](frmReports &screen) {
+                                   screen.reject();
+                                   return control<QListWidget>(screen, u"reports"_s)->count();
+                               });
+    EXPECT_EQ(templates, 5);
+    for (const QMenu *menu : window->findChildren<QMenu *>())
+        EXPECT_FALSE(menu->actions().contains(window->tool(u"ID_ReportManager"_s)));
+    EXPECT_TRUE(boxes().shown.isEmpty());
 }
 
 } // namespace

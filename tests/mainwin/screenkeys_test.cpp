@@ -30,7 +30,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMainWindow>
-#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -185,25 +184,6 @@ QStringList toolsWithoutKeys(const QWidget &window) {
     return unreachable;
 }
 
-// The menu entries of `menu` and its submenus that share a letter.
-QStringList sharedMenuLetters(const QMenu &menu) {
-    QStringList shared;
-    QHash<QChar, QString> taken;
-    for (const QAction *entry : menu.actions()) {
-        const QChar letter = mnemonicOf(entry->text());
-        if (entry->isSeparator() || !entry->isVisible())
-            continue;
-        if (letter.isNull())
-            shared.append(entry->objectName() + u" has no letter"_s);
-        else if (taken.contains(letter))
-            shared.append(taken.value(letter) + u" & "_s + entry->objectName());
-        taken.insert(letter, entry->objectName());
-        if (entry->menu())
-            shared += sharedMenuLetters(*entry->menu());
-    }
-    return shared;
-}
-
 } // namespace
 
 class ScreenKeysTest : public BriskoTest {};
@@ -217,13 +197,5 @@ TEST_F(ScreenKeysTest, EveryControlHasANameAndEveryCaptionALetterOfItsOwn) {
         EXPECT_EQ(unreachableByLetter(*window), QStringList());
         EXPECT_EQ(sharedMnemonics(*window), QStringList());
         EXPECT_EQ(toolsWithoutKeys(*window), QStringList());
-    }
-}
-
-TEST_F(ScreenKeysTest, EveryMenuEntryOfTheMainWindowHasALetterOfItsOwn) {
-    frmMain window;
-    for (const QAction *title : window.findChild<QMenuBar *>()->actions()) {
-        SCOPED_TRACE(title->objectName().toStdString());
-        EXPECT_EQ(sharedMenuLetters(*title->menu()), QStringList());
     }
 }

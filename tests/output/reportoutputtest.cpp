@@ -62,19 +62,22 @@ void ReportOutputTest::TearDown() {
     BriskoTest::TearDown();
 }
 
+QStringList ReportOutputTest::deliveries() const {
+    QStringList out;
+    for (const Delivered &each : m_delivery->delivered) {
+        out.append(each.where == Delivered::Where::Printer  ? u"printer "_s + each.report.title
+                   : each.where == Delivered::Where::Screen ? u"screen "_s + each.report.title
+                                                            : u"mail "_s + each.mail.to);
+    }
+    return out;
+}
+
 qint32 ReportOutputTest::addCustomer(const QString &name, const QString &email) {
     return qint32(db::insertReturningKey(
         u"INSERT INTO tblPayee (payeeName, address1, address2, city, state, zip, phone, email) "
         "VALUES (?, '48 Elm Street', '', 'Dover', 'NH', '03820', '603-555-0199', ?) "
         "RETURNING payeeID"_s,
         {name, email}));
-}
-
-qint32 ReportOutputTest::addProduct(const QString &sku, const QString &name) {
-    return qint32(db::insertReturningKey(
-        u"INSERT INTO tblProduct (productName, productSKU, cost, productStatus, productDesc) "
-        "VALUES (?, ?, 0, 1, '') RETURNING productID"_s,
-        {name, sku}));
 }
 
 qint32 ReportOutputTest::addProductReceipt(const QString &number, const QDateTime &date,
@@ -96,9 +99,13 @@ qint32 ReportOutputTest::addProductReceipt(const QString &number, const QDateTim
     receipt.amountReceived = receipt.amountDue + receipt.amountTax;
     receipt.writeReceipt();
     for (const Line &line : lines) {
-        Receipt().writeReceiptProducts(receipt.receiptID, addProduct(line.sku, line.description),
-                                       line.quantity, Currency::fromDouble(line.price),
-                                       line.description, line.extDesc);
+        const auto productID = db::insertReturningKey(
+            u"INSERT INTO tblProduct (productName, productSKU, cost, productStatus, productDesc) "
+            "VALUES (?, ?, 0, 1, '') RETURNING productID"_s,
+            {line.description, line.sku});
+        Receipt().writeReceiptProducts(receipt.receiptID, qint32(productID), line.quantity,
+                                       Currency::fromDouble(line.price), line.description,
+                                       line.extDesc);
     }
     transaction.commit();
     return receipt.receiptID;

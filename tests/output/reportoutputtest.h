@@ -38,10 +38,11 @@ protected:
     void TearDown() override;
 
     RecordingDelivery &delivery() { return *m_delivery; }
+    // Where each delivery went with its title or addressee, in order: "printer Receipt 7".
+    QStringList deliveries() const;
 
     // A customer with a full address; gives its key.
     static qint32 addCustomer(const QString &name, const QString &email = {});
-    static qint32 addProduct(const QString &sku, const QString &name);
     // A product receipt of the given lines ("sku", quantity, price) written
     // as the editor writes it; gives its key.
     struct Line {
