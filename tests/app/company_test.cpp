@@ -13,26 +13,10 @@ protected:
     }
 };
 
-TEST_F(CompanyTest, NullTextsKeepWhatTheRecordHeldAndNumberFormatFallsBack) {
-    company().city = u"Leeds"_s;
-    for (const QString &column : {u"city"_s, u"tagline"_s, u"numberFormat"_s})
-        setColumn(column, nullptr);
-    ASSERT_TRUE(modMain::loadCompanyInfo());
-    EXPECT_EQ(company().city, u"Leeds"_s);
-    EXPECT_EQ(company().tagline, u""_s);
-    EXPECT_EQ(company().numberFormat, u"00000"_s);
-
-    // A Null where a value is required fails; an empty table changes nothing.
-    setColumn(u"restrictAccess"_s, nullptr);
-    const BriskoError error = errorOf([] { modMain::loadCompanyInfo(); });
-    EXPECT_EQ(error.number(), RuntimeError::InvalidUseOfNull);
-    EXPECT_EQ(error.description(), u"modMain.loadCompanyInfo:  Invalid use of Null"_s);
-    db::execute(u"DELETE FROM tblSystem"_s);
-    EXPECT_FALSE(modMain::loadCompanyInfo());
-    EXPECT_EQ(company().city, u"Leeds"_s);
-}
-
-TEST_F(CompanyTest, EachFlagFollowsItsOwnRule) {
+TEST_F(CompanyTest, FlagsMailServerAndNullsFollowTheirRules) {
+    MailSettings settings;
+    settings.mailServer = u"smtp.example.org"_s;
+    settings.store();
     setColumn(u"resetNumberEOY"_s, -1);
     setColumn(u"hideSalesTax"_s, -1);
     setColumn(u"hideAcctBalance"_s, 2);
@@ -49,14 +33,24 @@ TEST_F(CompanyTest, EachFlagFollowsItsOwnRule) {
     ASSERT_TRUE(modMain::loadCompanyInfo());
     EXPECT_TRUE(company().hideDiscountField);
     EXPECT_FALSE(company().hideSalesTax);
-}
-
-TEST_F(CompanyTest, MailServerComesFromTheStoredMailSettings) {
-    MailSettings settings;
-    settings.mailServer = u"smtp.example.org"_s;
-    settings.store();
-    ASSERT_TRUE(modMain::loadCompanyInfo());
     EXPECT_EQ(company().mailServer, u"smtp.example.org"_s);
+
+    company().city = u"Leeds"_s;
+    for (const QString &column : {u"city"_s, u"tagline"_s, u"numberFormat"_s})
+        setColumn(column, nullptr);
+    ASSERT_TRUE(modMain::loadCompanyInfo());
+    EXPECT_EQ(company().city, u"Leeds"_s);
+    EXPECT_EQ(company().tagline, u""_s);
+    EXPECT_EQ(company().numberFormat, u"00000"_s);
+
+    // A Null where a value is required fails; an empty table changes nothing.
+    setColumn(u"restrictAccess"_s, nullptr);
+    const BriskoError error = errorOf([] { modMain::loadCompanyInfo(); });
+    EXPECT_EQ(error.number(), RuntimeError::InvalidUseOfNull);
+    EXPECT_EQ(error.description(), u"modMain.loadCompanyInfo:  Invalid use of Null"_s);
+    db::execute(u"DELETE FROM tblSystem"_s);
+    EXPECT_FALSE(modMain::loadCompanyInfo());
+    EXPECT_EQ(company().city, u"Leeds"_s);
 }
 
 } // namespace

@@ -19,7 +19,7 @@ TEST(Currency, ManySmallAmountsAddUpExactly) {
     EXPECT_EQ(money("0.1") + money("0.2") - money("0.3"), Currency());
 }
 
-TEST(Currency, ReadsRoundsAndWritesText) {
+TEST(Currency, ReadsRoundsAndWritesTextOrFailsOutOfRangeOrOnOtherText) {
     EXPECT_EQ(money("1,234.50").units(), 12345000);
     EXPECT_EQ(money("-3").units(), -30000);
     EXPECT_EQ(money("1e3").units(), 10000000);
@@ -30,9 +30,7 @@ TEST(Currency, ReadsRoundsAndWritesText) {
     EXPECT_EQ(money("12.50").toString(), "12.5");
     EXPECT_EQ(Currency::fromUnits(std::numeric_limits<qint64>::min()).toString(),
               "-922337203685477.5808");
-}
 
-TEST(Currency, LeavingTheRangeOverflowsAndOtherTextIsAMismatch) {
     const Currency largest = Currency::fromUnits(std::numeric_limits<qint64>::max());
     const Currency smallest = Currency::fromUnits(std::numeric_limits<qint64>::min());
     EXPECT_EQ(money("922337203685477.5807"), largest);

@@ -1,6 +1,3 @@
-// At start-up Brisko names the shipped files it cannot find, before anything
-// needs them.
-
 #include "app/installcheck.h"
 #include "platform/paths.h"
 #include "shippedfiles.h"

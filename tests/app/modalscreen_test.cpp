@@ -30,7 +30,7 @@ protected:
 
 using ModalScreenTest = BriskoTest;
 
-TEST_F(ModalScreenTest, LoadRunsOnceAfterTheFieldsAndMayCloseTheScreenBeforeItShows) {
+TEST_F(ModalScreenTest, LoadRunsOnceAndACommandsFailureShowsItsBoxWhileTheScreenStays) {
     LoadingScreen closing;
     closing.closeOnLoad = true;
     EXPECT_EQ(closing.exec(), QDialog::Rejected) << "and did not hang";
@@ -49,9 +49,7 @@ TEST_F(ModalScreenTest, LoadRunsOnceAfterTheFieldsAndMayCloseTheScreenBeforeItSh
                               });
     staying.show();
     EXPECT_EQ(staying.loads, QStringList{u"staying"_s});
-}
 
-TEST_F(ModalScreenTest, ACommandsFailureShowsItsLeadAndDescriptionAndTheScreenStays) {
     LoadingScreen screen;
     screen.show();
     EXPECT_FALSE(screen.runCommand(u"An error has occured:  "_s,

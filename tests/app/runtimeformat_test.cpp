@@ -37,7 +37,7 @@ TEST(FormatNumber, Patterns) {
             << c.value << " with " << c.pattern;
 }
 
-TEST(FormatDate, ReceiptNumberAndQueryPatterns) {
+TEST(FormatDate, ReceiptNumberQueryShortAndGeneralDates) {
     const QDate date(2013, 10, 25);
     EXPECT_EQ(Runtime::formatDate(date, "mm/dd/yyyy"), "10/25/2013");
     EXPECT_EQ(Runtime::formatDate(date, "yy-"), "13-");
@@ -45,13 +45,13 @@ TEST(FormatDate, ReceiptNumberAndQueryPatterns) {
     EXPECT_EQ(Runtime::formatDate(date, "-YYYY"), "-2013");
     EXPECT_EQ(Runtime::formatDate(QDate(2009, 3, 5), "mm/dd/yy"), "03/05/09");
     EXPECT_EQ(Runtime::formatDate(QDate(2009, 3, 5), "m/d/yyyy"), "3/5/2009");
-}
 
-TEST(Conversions, LooseNumericTest) {
-    for (const char *text : {"1,234.50", "-3", " 42 ", ".5", "2.5E-2"})
-        EXPECT_TRUE(Runtime::isNumeric(text)) << text;
-    for (const char *text : {"", " ", "12a", "7.5%", ".", "1.2.3", ",5", "$5"})
-        EXPECT_FALSE(Runtime::isNumeric(text)) << text;
+    EXPECT_EQ(Runtime::shortDate(QDate(2009, 3, 5)), "3/5/2009");
+    EXPECT_EQ(Runtime::parseShortDate("03/05/2009"), QDate(2009, 3, 5));
+    EXPECT_EQ(Runtime::parseShortDate("2009-03-05"), QDate(2009, 3, 5));
+    EXPECT_FALSE(Runtime::parseShortDate("13/45/2009").isValid());
+    EXPECT_EQ(Runtime::generalDate(QDateTime(date, QTime(0, 0))), "10/25/2013");
+    EXPECT_EQ(Runtime::generalDate(QDateTime(date, QTime(15, 4, 5))), "10/25/2013 3:04:05 PM");
 }
 
 TEST(Conversions, WholeNumbersRoundHalfToEvenAndOtherTypes) {
@@ -68,16 +68,11 @@ TEST(Conversions, WholeNumbersRoundHalfToEvenAndOtherTypes) {
     EXPECT_DOUBLE_EQ(Runtime::toDouble("-1,234.5"), -1234.5);
     EXPECT_EQ(Runtime::defaultText(0.1 + 0.2), "0.3");
     EXPECT_EQ(Runtime::defaultText(12.5), "12.5");
-}
 
-TEST(Conversions, ShortAndGeneralDates) {
-    EXPECT_EQ(Runtime::shortDate(QDate(2009, 3, 5)), "3/5/2009");
-    EXPECT_EQ(Runtime::parseShortDate("03/05/2009"), QDate(2009, 3, 5));
-    EXPECT_EQ(Runtime::parseShortDate("2009-03-05"), QDate(2009, 3, 5));
-    EXPECT_FALSE(Runtime::parseShortDate("13/45/2009").isValid());
-    const QDate date(2013, 10, 25);
-    EXPECT_EQ(Runtime::generalDate(QDateTime(date, QTime(0, 0))), "10/25/2013");
-    EXPECT_EQ(Runtime::generalDate(QDateTime(date, QTime(15, 4, 5))), "10/25/2013 3:04:05 PM");
+    for (const char *text : {"1,234.50", "-3", " 42 ", ".5", "2.5E-2"})
+        EXPECT_TRUE(Runtime::isNumeric(text)) << text;
+    for (const char *text : {"", " ", "12a", "7.5%", ".", "1.2.3", ",5", "$5"})
+        EXPECT_FALSE(Runtime::isNumeric(text)) << text;
 }
 
 } // namespace

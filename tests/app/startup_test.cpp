@@ -61,7 +61,7 @@ TEST_F(InitialiseTest, TheFirstStartOnAnAccountPutsANewDatabaseInPlace) {
     EXPECT_EQ(storedLastNumber(), 0);
 }
 
-TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly) {
+TEST_F(InitialiseTest, AShareSettingIsReadAsAYesOrNoAndAMissingShareMeansLocal) {
     numberThisYear();
     Utility::RegSetString(SettingsKey::useSharedFile, u"True"_s);
     Utility::RegSetString(SettingsKey::shareFileLocation, u"/nowhere/bdesk.db"_s);
@@ -74,10 +74,7 @@ TEST_F(InitialiseTest, AMissingShareFileFallsBackToTheLocalFileForThisRunOnly) {
     EXPECT_EQ(session().shareFileLocation, u""_s);
     EXPECT_EQ(session().dbPath, databasePath());
     EXPECT_EQ(Utility::RegGetString(SettingsKey::useSharedFile), u"True"_s);
-}
-
-TEST_F(InitialiseTest, AShareSettingIsReadAsAYesOrNoOrQuietlyMeansLocal) {
-    numberThisYear();
+    boxes().shown.clear();
     Utility::RegSetString(SettingsKey::lastDB, u"/elsewhere/local.db"_s);
     Utility::RegSetString(SettingsKey::useSharedFile, u" true "_s);
     Utility::RegSetString(SettingsKey::shareFileLocation, databasePath());
@@ -91,11 +88,32 @@ TEST_F(InitialiseTest, AShareSettingIsReadAsAYesOrNoOrQuietlyMeansLocal) {
     EXPECT_FALSE(session().useSharedFile);
     EXPECT_EQ(session().shareFileLocation, u""_s);
     EXPECT_TRUE(boxes().shown.isEmpty());
+
+    // The wizard is due until firstRun holds a value.
+    EXPECT_TRUE(session().firstRunFlag);
+    Utility::RegSetString(SettingsKey::firstRun, u"no"_s);
+    ASSERT_TRUE(modMain::Initialise());
+    EXPECT_FALSE(session().firstRunFlag);
 }
 
-TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt) {
+TEST_F(InitialiseTest, AMissingLastDatabaseAsksForAnotherOrEndsSilently) {
     numberThisYear();
     const QString deleted = tempPath(u"deleted.db"_s);
+    Utility::RegSetString(SettingsKey::lastDB, deleted);
+    EXPECT_FALSE(modMain::Initialise()); // the chooser cancelled ends silently
+    EXPECT_EQ(boxes().titles(), (QStringList{u"Missing / Invalid Database"_s, u"Open Database"_s}));
+    EXPECT_EQ(process().endProgramCalls, 1);
+    EXPECT_TRUE(session().shuttingDown);
+    EXPECT_EQ(Utility::RegGetString(SettingsKey::lastDB), deleted);
+
+    boxes().shown.clear();
+    const QString folder = tempPath(u"folder.db"_s);
+    ASSERT_TRUE(QDir().mkpath(folder));
+    Utility::RegSetString(SettingsKey::lastDB, folder);
+    EXPECT_FALSE(modMain::Initialise());
+    EXPECT_EQ(boxes().titles(), (QStringList{u"Missing / Invalid Database"_s, u"Open Database"_s}));
+
+    boxes().shown.clear();
     Utility::RegSetString(SettingsKey::lastDB, deleted);
     boxes().texts.enqueue(databasePath());
     ASSERT_TRUE(modMain::Initialise());
@@ -107,23 +125,6 @@ TEST_F(InitialiseTest, ADeletedLastDatabaseAsksForAnotherAndRemembersIt) {
     EXPECT_EQ(boxes().shown[1].request.folder, deleted);
     EXPECT_EQ(Utility::RegGetString(SettingsKey::lastDB), databasePath());
     EXPECT_EQ(session().dbPath, databasePath());
-}
-
-TEST_F(InitialiseTest, CancellingTheChooserEndsSilently) {
-    Utility::RegSetString(SettingsKey::lastDB, tempPath(u"deleted.db"_s));
-    EXPECT_FALSE(modMain::Initialise());
-    EXPECT_EQ(boxes().shown.size(), 2); // the box and the chooser, nothing after
-    EXPECT_EQ(process().endProgramCalls, 1);
-    EXPECT_TRUE(session().shuttingDown);
-    EXPECT_EQ(Utility::RegGetString(SettingsKey::lastDB), tempPath(u"deleted.db"_s));
-}
-
-TEST_F(InitialiseTest, AFolderCountsAsAMissingFile) {
-    const QString folder = tempPath(u"folder.db"_s);
-    ASSERT_TRUE(QDir().mkpath(folder));
-    Utility::RegSetString(SettingsKey::lastDB, folder);
-    EXPECT_FALSE(modMain::Initialise());
-    EXPECT_EQ(boxes().titles(), (QStringList{u"Missing / Invalid Database"_s, u"Open Database"_s}));
 }
 
 TEST_F(InitialiseTest, AFileThatIsNoBriskoDatabaseOffersTheChooserUntilOneOpens) {
@@ -171,15 +172,6 @@ TEST_F(InitialiseTest, AnEmptyFileBecomesANewDatabaseWhenTheOwnerAgrees) {
               u"4.2.5"_s);
 }
 
-TEST_F(InitialiseTest, TheWizardIsDueUntilFirstRunHoldsAValue) {
-    numberThisYear();
-    ASSERT_TRUE(modMain::Initialise());
-    EXPECT_TRUE(session().firstRunFlag);
-    Utility::RegSetString(SettingsKey::firstRun, u"no"_s);
-    ASSERT_TRUE(modMain::Initialise());
-    EXPECT_FALSE(session().firstRunFlag);
-}
-
 class YearChangeTest : public InitialiseTest {
 protected:
     void SetUp() override {
@@ -187,66 +179,69 @@ protected:
         db::execute(
             u"INSERT INTO tblReceiptNumbering (receiptYear, lastNumberUsed) VALUES ('12', 41)"_s);
     }
-
-    QString yearChangeText() const {
-        return u"The program has detected a change in the receipt year.\nand will create a new "
-               u"year for "_s +
-               session().year2 + u".  Click OK to proceed."_s;
-    }
 };
 
 TEST_F(YearChangeTest, WithoutResetNumberingRunsOnAfterOneQuestion) {
     setResetNumberEOY(0);
     ASSERT_TRUE(modMain::Initialise());
     EXPECT_EQ(boxes().lines(),
-              QStringList(u"Year Change | "_s + yearChangeText() + u" | Information"_s));
+              QStringList(u"Year Change | The program has detected a change in the receipt "
+                          u"year.\nand will create a new year for "_s +
+                          session().year2 + u".  Click OK to proceed. | Information"_s));
     EXPECT_EQ(boxes().shown[0].buttons, Dialogs::Buttons::OkCancel);
     EXPECT_EQ(storedLastNumber(), 41); // the next receipt gets 42
 }
 
-TEST_F(YearChangeTest, CancelEndsTheProgramWithoutAYear) {
-    boxes().answers.enqueue(Answer::Cancel);
-    EXPECT_FALSE(modMain::Initialise());
-    EXPECT_EQ(boxes().lines().last(),
-              u"Program Failure | This program can not continue without creating the new year. "
-              u"| Critical"_s);
-    EXPECT_EQ(process().endProgramCalls, 1);
-    EXPECT_EQ(storedLastNumber(), -1);
-}
-
-TEST_F(YearChangeTest, ATypedStartNumberIsCheckedUntilItIsAccepted) {
-    boxes().texts << u"0"_s << u"12a"_s << u"7"_s;
-    ASSERT_TRUE(modMain::Initialise());
-    EXPECT_EQ(boxes().titles(), QStringList({u"Year Change"_s, u"Starting Number"_s,
-                                             u"Invalid Starting Number"_s, u"Starting Number"_s,
-                                             u"Invalid Starting Number"_s, u"Starting Number"_s}));
-    EXPECT_EQ(boxes().shown[1].text,
-              u"Entering the starting number for the receipt.  Must be greater or equal to 1."_s);
+// Each run: the answers and typed texts, then the boxes shown and the last
+// number stored (-1: no year, the program ended).
+TEST_F(YearChangeTest, TheStartNumberIsCheckedUntilAcceptedOrTheProgramEnds) {
+    const QString change = u"Year Change"_s, start = u"Starting Number"_s,
+                  invalid = u"Invalid Starting Number"_s, abort = u"Abort New Year"_s,
+                  failure = u"Program Failure | "_s;
+    const QString cannot = u"This program can not continue without creating the new year. | "
+                           u"Critical"_s;
+    const struct {
+        QList<Answer> answers;
+        QStringList texts, titles;
+        int last;
+        QString ending = {};
+    } runs[] = {
+        {{Answer::Cancel}, {}, {change, u"Program Failure"_s}, -1, failure + cannot},
+        {{Answer::Ok, Answer::No}, {u""_s, u"5"_s}, {change, start, abort, invalid, start}, 4},
+        {{Answer::Ok, Answer::Yes},
+         {},
+         {change, start, abort, u"Program Failure"_s},
+         -1,
+         failure + u"User aborted.  "_s + cannot},
+        {{}, {u"0"_s, u"12a"_s, u"7"_s}, {change, start, invalid, start, invalid, start}, 6},
+    };
+    int ended = 0;
+    for (const auto &run : runs) {
+        db::execute(u"DELETE FROM tblReceiptNumbering WHERE receiptYear = ?"_s, {session().year2});
+        boxes().shown.clear();
+        boxes().answers.append(run.answers);
+        boxes().texts.append(run.texts);
+        EXPECT_EQ(modMain::Initialise(), run.last >= 0);
+        EXPECT_EQ(boxes().titles(), run.titles);
+        for (const auto &box : boxes().shown) {
+            if (box.title == start) {
+                EXPECT_EQ(box.text, u"Entering the starting number for the receipt.  Must be "
+                                    u"greater or equal to 1."_s);
+            }
+            if (box.title == abort) {
+                EXPECT_EQ(box.text, u"Abort this process?"_s);
+                EXPECT_EQ(box.icon, Icon::Question);
+            }
+        }
+        EXPECT_EQ(storedLastNumber(), run.last);
+        EXPECT_EQ(process().endProgramCalls, ended += run.last < 0);
+        if (!run.ending.isEmpty()) {
+            EXPECT_EQ(boxes().lines().last(), run.ending);
+        }
+    }
     EXPECT_EQ(boxes().shown[2].text, u"Starting number must be greater than zero"_s);
     EXPECT_EQ(boxes().shown[4].text, u"Starting number can only contain digits"_s);
     EXPECT_EQ(boxes().shown[4].icon, Icon::Exclamation);
-    EXPECT_EQ(storedLastNumber(), 6);
-}
-
-TEST_F(YearChangeTest, NotAbortingAfterCancelCostsOneMoreBox) {
-    boxes().answers << Answer::Ok << Answer::No;
-    boxes().texts << u""_s << u"5"_s;
-    ASSERT_TRUE(modMain::Initialise());
-    EXPECT_EQ(boxes().titles(),
-              QStringList({u"Year Change"_s, u"Starting Number"_s, u"Abort New Year"_s,
-                           u"Invalid Starting Number"_s, u"Starting Number"_s}));
-    EXPECT_EQ(boxes().shown[2].text, u"Abort this process?"_s);
-    EXPECT_EQ(boxes().shown[2].icon, Icon::Question);
-    EXPECT_EQ(storedLastNumber(), 4);
-}
-
-TEST_F(YearChangeTest, AbortingEndsTheProgram) {
-    boxes().answers << Answer::Ok << Answer::Yes;
-    EXPECT_FALSE(modMain::Initialise());
-    EXPECT_EQ(boxes().lines().last(), u"Program Failure | User aborted.  This program can not "
-                                      u"continue without creating the new year. | Critical"_s);
-    EXPECT_EQ(process().endProgramCalls, 1);
-    EXPECT_EQ(storedLastNumber(), -1);
 }
 
 } // namespace

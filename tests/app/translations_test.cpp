@@ -1,5 +1,3 @@
-// Brisko speaks the desktop's language: its own texts and Qt's buttons.
-
 #include "admin/frmlogin.h"
 #include "app/translations.h"
 #include "mainwin/frmmain.h"

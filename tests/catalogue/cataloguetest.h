@@ -11,8 +11,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-// The catalogue on a fresh database, with the main window its screens are
-// opened from.
+// The catalogue on a fresh database and the main window that opens its screens.
 class CatalogueTest : public BriskoTest {
 protected:
     void TearDown() override {
@@ -80,16 +79,12 @@ protected:
         return rows;
     }
 
-    // The events of a real double click on `row`.
-    static void doubleClickRow(QAbstractItemView *list, int row) {
+    // The events of a real click, or double click, on `row`.
+    static void clickRow(QAbstractItemView *list, int row, bool twice = false) {
         const QPoint position = list->visualRect(list->model()->index(row, 0)).center();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, position);
-        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, position);
-    }
-
-    static void clickRow(QAbstractItemView *list, int row) {
-        const QPoint position = list->visualRect(list->model()->index(row, 0)).center();
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, position);
+        if (twice)
+            QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, position);
     }
 
     static void type(const QWidget &screen, const QString &name, const QString &text) {

@@ -9,7 +9,6 @@
 
 namespace {
 
-// cmdNew, cmdDelete, cmdEdit, cmdOK, cmdCan, Frame2, txtName.
 const QStringList panel = {u"cmdNew"_s, u"cmdDelete"_s, u"cmdEdit"_s, u"cmdOK"_s,
                            u"cmdCan"_s, u"Frame2"_s,    u"txtName"_s};
 
@@ -61,7 +60,7 @@ TEST_F(PayMethodTest, AMethodInUseGoesInactiveAndOneNotInUseIsDeleted) {
         boxes().answers << Dialogs::Answer::Yes;
         click(screen, u"cmdDelete"_s);
         EXPECT_EQ(rowsOf(list)[1], u"Check | Active"_s);
-        doubleClickRow(list, 1);
+        clickRow(list, 1, true);
         EXPECT_EQ(enabled(screen, panel), u"1110110"_s);
         click(screen, u"cmdEdit"_s);
         click(screen, u"optStatus0"_s);

@@ -7,7 +7,6 @@
 
 namespace {
 
-// cmdAdd, cmdEdit, cmdDelete, cmdOK, cmdCancel, Frame2, shortName.
 const QStringList panel = {u"cmdAdd"_s,    u"cmdEdit"_s, u"cmdDelete"_s, u"cmdOK"_s,
                            u"cmdCancel"_s, u"Frame2"_s,  u"shortName"_s};
 

@@ -12,7 +12,7 @@ QStringList skusOf(const db::Snapshot &products) {
 
 using ProductTest = CatalogueTest;
 
-TEST_F(ProductTest, ListsFilterByStatusAndSortBySkuWithoutRegardToCase) {
+TEST_F(ProductTest, ListsFilterSortAndSearchTakingTypedTextLiterally) {
     addProduct(u"b-2"_s, u"Cable"_s);
     addProduct(u"AB-1"_s, u"Widget"_s);
     addProduct(u"a-9"_s, u"Old cable"_s, Product::Inactive);
@@ -32,13 +32,11 @@ TEST_F(ProductTest, ListsFilterByStatusAndSortBySkuWithoutRegardToCase) {
               (QStringList{u"a-9"_s, u"AB-1"_s, u"b-2"_s}));
     EXPECT_EQ(skusOf(product.productSearch(u"each"_s, Product::AllProducts)), QStringList());
     EXPECT_EQ(skusOf(product.productSearch(u""_s, Product::InactiveOnly)), QStringList{u"a-9"_s});
-}
 
-TEST_F(ProductTest, TypedWildcardsAndApostrophesMatchThemselves) {
+    // Typed wildcards and apostrophes match themselves.
     addProduct(u"50%-OFF"_s, u"O'Brien's 10_pack"_s);
     addProduct(u"500FF"_s, u"OBriens 10-pack"_s);
 
-    Product product;
     EXPECT_EQ(skusOf(product.productSearch(u"%"_s, Product::AllProducts)),
               QStringList{u"50%-OFF"_s});
     EXPECT_EQ(skusOf(product.productSearch(u"_"_s, Product::AllProducts)),
@@ -83,7 +81,7 @@ TEST_F(ProductTest, WritesReadsAndKeepsTheLineFields) {
     EXPECT_FALSE(Product().getProduct(id + 1));
 }
 
-TEST_F(ProductTest, IsUsedLooksAtReceiptLinesAndDeleteLeavesTheGuardToItsCaller) {
+TEST_F(ProductTest, IsUsedLooksAtReceiptLinesAndFailuresCarryTheirPrefix) {
     const qint32 used = addProduct(u"U-1"_s, u"Used"_s);
     const qint32 unused = addProduct(u"N-1"_s, u"Unused"_s);
     useOnReceipt(used);
@@ -94,9 +92,8 @@ TEST_F(ProductTest, IsUsedLooksAtReceiptLinesAndDeleteLeavesTheGuardToItsCaller)
     EXPECT_FALSE(product.isUsed(unused));
     EXPECT_TRUE(product.deleteProduct(used));
     EXPECT_EQ(skusOf(product.getProducts(Product::AllProducts)), QStringList{u"N-1"_s});
-}
 
-TEST_F(ProductTest, FailuresCarryTheOperationsPrefix) {
+    // Failures carry the operation's prefix.
     db::execute(u"INSERT INTO tblProduct (productSKU) VALUES ('NULLS')"_s);
     const BriskoError null = errorOf([] { Product().getProductBySKU(u"NULLS"_s); });
     EXPECT_EQ(null.number(), RuntimeError::InvalidUseOfNull);

@@ -1,5 +1,3 @@
-// The customer record against a real database file, and the balance rules.
-
 #include "customers/payee.h"
 #include "receipts/receipt.h"
 #include "support/briskotest.h"
@@ -11,12 +9,9 @@ namespace {
 // One receipt row of a customer; amounts as typed.
 struct Line {
     qint16 type = Receipt::ProductReceipt;
-    const char *due = "0";
-    const char *received = "0";
+    const char *due = "0", *received = "0";
     qint16 status = Receipt::Issued;
-    const char *tax = "0";
-    const char *other = "0";
-    const char *discount = "0";
+    const char *tax = "0", *other = "0", *discount = "0";
     const char *opening = "0"; // accountBalance, read on opening-balance rows
 };
 
@@ -46,67 +41,45 @@ QString planOf(const QString &sql, const db::Params &params) {
     return steps.join(u"; "_s);
 }
 
-class PayeeTest : public BriskoTest {};
+using PayeeTest = BriskoTest;
 
 TEST_F(PayeeTest, BalanceFollowsTheSalesPaymentsAndOpeningRow) {
     const Line opening50{.type = Receipt::OpeningBalance, .opening = "50"};
     const struct {
-        const char *name;
+        struct {
+            const char *balance, *openingBalance, *name;
+        } expected;
         QList<Line> lines;
-        const char *balance;
-        const char *openingBalance;
     } cases[] = {
-        {"no receipts", {}, "0", "0"},
-        {"paid in full", {{.due = "100", .received = "100"}}, "0", "0"},
-        {"paid more: the excess is dropped", {{.due = "100", .received = "150"}}, "0", "0"},
-        {"paid 30 of 100", {{.due = "100", .received = "30"}}, "70", "0"},
-        {"discount lowers the total",
-         {{.type = Receipt::ServiceReceipt,
-           .due = "100",
-           .received = "30",
-           .tax = "8",
-           .other = "2",
-           .discount = "10"}},
-         "70",
-         "0"},
-        {"void sale and void payment",
+        {{"0", "0", "no receipts"}, {}},
+        {{"0", "0", "paid in full"}, {{.due = "100", .received = "100"}}},
+        {{"0", "0", "paid more: the excess is dropped"}, {{.due = "100", .received = "150"}}},
+        {{"70", "0", "paid 30 of 100"}, {{.due = "100", .received = "30"}}},
+        {{"70", "0", "discount lowers the total"},
+         {{Receipt::ServiceReceipt, "100", "30", Receipt::Issued, "8", "2", "10"}}},
+        {{"0", "0", "void sale and void payment"},
          {{.due = "100", .status = Receipt::Void},
-          {.type = Receipt::AccountPayment, .received = "40", .status = Receipt::Void}},
-         "0",
-         "0"},
-        {"a void opening row counts",
-         {{.type = Receipt::OpeningBalance, .status = Receipt::Void, .opening = "50"}},
-         "50",
-         "50"},
-        {"a payment beyond the balance",
-         {opening50, {.type = Receipt::AccountPayment, .due = "999", .received = "80"}},
-         "-30",
-         "50"},
-        {"type 3 does nothing", {{.type = 3, .due = "100"}}, "0", "0"},
-        {"the last of two opening rows",
+          {.type = Receipt::AccountPayment, .received = "40", .status = Receipt::Void}}},
+        {{"50", "50", "a void opening row counts"},
+         {{.type = Receipt::OpeningBalance, .status = Receipt::Void, .opening = "50"}}},
+        {{"-30", "50", "a payment beyond the balance"},
+         {opening50, {.type = Receipt::AccountPayment, .due = "999", .received = "80"}}},
+        {{"0", "0", "type 3 does nothing"}, {{.type = 3, .due = "100"}}},
+        {{"26.25", "20.25", "the last of two opening rows"},
          {opening50,
           {.type = Receipt::OpeningBalance, .opening = "20.25"},
-          {.due = "10", .received = "4"}},
-         "26.25",
-         "20.25"},
+          {.due = "10", .received = "4"}}},
     };
     for (const auto &example : cases) {
-        const qint32 id = addPayee(QString::fromLatin1(example.name));
+        const qint32 id = addPayee(QString::fromLatin1(example.expected.name));
         addLine(addPayee(u"someone else"_s), {.due = "500"});
         for (const Line &line : example.lines)
             addLine(id, line);
-        EXPECT_EQ(Payee().GetPayeeBalance(id), money(example.balance)) << example.name;
-        EXPECT_EQ(Payee().GetOpeningBalance(id), money(example.openingBalance)) << example.name;
+        EXPECT_EQ(Payee().GetPayeeBalance(id), money(example.expected.balance))
+            << example.expected.name;
+        EXPECT_EQ(Payee().GetOpeningBalance(id), money(example.expected.openingBalance))
+            << example.expected.name;
     }
-}
-
-TEST_F(PayeeTest, ANullAmountFailsTheBalanceEvenOnAVoidRow) {
-    const qint32 id = addPayee(u"Ann"_s);
-    const qint32 receiptID = addLine(id, {.due = "100", .status = Receipt::Void});
-    db::execute(u"UPDATE tblReceipt SET amountTax = NULL WHERE receiptID = ?"_s, {receiptID});
-    const BriskoError error = errorOf([&] { Payee().GetPayeeBalance(id); });
-    EXPECT_EQ(error.number(), RuntimeError::InvalidUseOfNull);
-    EXPECT_EQ(error.description(), u"Payee.loadPayeeInfo:  Invalid use of Null"_s);
 }
 
 // The opening balance is one row, updated in place and dated today.
@@ -171,8 +144,7 @@ TEST_F(PayeeTest, WriteLoadAndDeleteAgainstTheFile) {
     EXPECT_EQ(db::select(u"SELECT * FROM tblReceipt"_s).size(), 1) << "receipts stay";
 }
 
-// Four columns may be Null and keep the field; any other Null fails and the
-// record keeps what it held.
+// Four columns may be Null and keep the field; any other Null fails.
 TEST_F(PayeeTest, LoadKeepsFieldsOnNullsAndOnAMissingRow) {
     const qint32 id = addPayee(u"Ann"_s);
     db::execute(u"UPDATE tblPayee SET address1 = 'a', city = 'c', state = 's', zip = 'z'"_s);
@@ -191,6 +163,13 @@ TEST_F(PayeeTest, LoadKeepsFieldsOnNullsAndOnAMissingRow) {
     const BriskoError error = errorOf([&] { payee.LoadPayeeInfo(id); });
     EXPECT_EQ(error.description(), u"Payee.loadPayeeInfo:  Invalid use of Null"_s);
     EXPECT_EQ(payee.payeeName, u"Ann"_s);
+
+    // A Null amount fails the balance, even on a void row.
+    const qint32 receiptID = addLine(id, {.due = "100", .status = Receipt::Void});
+    db::execute(u"UPDATE tblReceipt SET amountTax = NULL WHERE receiptID = ?"_s, {receiptID});
+    const BriskoError balance = errorOf([&] { Payee().GetPayeeBalance(id); });
+    EXPECT_EQ(balance.number(), RuntimeError::InvalidUseOfNull);
+    EXPECT_EQ(balance.description(), u"Payee.loadPayeeInfo:  Invalid use of Null"_s);
 }
 
 // The balance and the name search read their columns from an index alone,

@@ -1,5 +1,8 @@
 #include "receipttestbase.h"
 
+#include "app/company.h"
+#include "support/testhelpers.h"
+
 using namespace Qt::Literals::StringLiterals;
 
 using ReceiptRecordTest = ReceiptTest;
@@ -78,18 +81,7 @@ TEST_F(ReceiptRecordTest, NullColumnsOfOldRows) {
     EXPECT_EQ(failing.receiptID, 0);
 }
 
-TEST_F(ReceiptRecordTest, LineTotalIsQuantityTimesCostInTenThousandths) {
-    Receipt receipt;
-    ASSERT_TRUE(receipt.writeReceiptProducts(9, 4, 3, Currency::fromText(u"1.25"_s), u"Nails"_s,
-                                             u"Galvanised"_s));
-    const auto row = db::readFirst(
-        u"SELECT unitTotal, typeof(unitTotal) AS kind FROM tblReceipt_Product WHERE receiptID = 9"_s);
-    ASSERT_TRUE(row);
-    EXPECT_EQ(row->value(u"kind"_s).toString(), u"integer"_s);
-    EXPECT_EQ(row->value(u"unitTotal"_s).toLongLong(), 37500);
-}
-
-TEST_F(ReceiptRecordTest, DeletesAndReassignment) {
+TEST_F(ReceiptRecordTest, LinesDeletesAndReassignment) {
     const qint32 alice = addPayee(u"Alice"_s);
     const qint32 bob = addPayee(u"Bob"_s);
     const qint32 first = saved(issuedReceipt(u"1"_s, at(2013, 10, 25), alice));
@@ -110,4 +102,57 @@ TEST_F(ReceiptRecordTest, DeletesAndReassignment) {
     EXPECT_TRUE(receipt.DeletePayeeReceipts(bob));
     EXPECT_EQ(receipt.getLastReceiptID(), 0);
     EXPECT_EQ(receipt.GetReceiptCount(), 0);
+
+    ASSERT_TRUE(receipt.writeReceiptProducts(9, 4, 3, Currency::fromText(u"1.25"_s), u"Nails"_s,
+                                             u"Galvanised"_s));
+    const auto row = db::readFirst(
+        u"SELECT unitTotal, typeof(unitTotal) AS kind FROM tblReceipt_Product WHERE receiptID = 9"_s);
+    ASSERT_TRUE(row);
+    EXPECT_EQ(row->value(u"kind"_s).toString(), u"integer"_s);
+    EXPECT_EQ(row->value(u"unitTotal"_s).toLongLong(), 37500);
+}
+
+TEST_F(ReceiptRecordTest, FilterByStatusSortByNameAndKeepTheirKeys) {
+    Receipt receipt;
+    const qint32 id = receipt.WritePaymentMethod(0, u"Gift Card"_s, Receipt::PayMethodInactive);
+    EXPECT_EQ(id, 6);
+    EXPECT_EQ(receipt.WritePaymentMethod(id, u"gift card"_s, Receipt::PayMethodActive), id);
+    EXPECT_EQ(receipt.GetPaymentMethods(Receipt::PayMethodActive).size(), 6);
+    EXPECT_EQ(receipt.GetPaymentMethods(Receipt::PayMethodInactive).size(), 0);
+    EXPECT_EQ(receipt.GetPaymentMethods(Receipt::AllPayMethods).at(3).text(u"methodName"_s),
+              u"gift card"_s);
+    EXPECT_FALSE(receipt.PaymentTypeIsUsed(id));
+
+    db::execute(u"DROP TABLE tblReceipt"_s);
+    EXPECT_TRUE(errorOf([&] { receipt.PaymentTypeIsUsed(id); })
+                    .description()
+                    .startsWith(u"Receipt.DeletePaymentMethod:  "_s));
+}
+
+TEST_F(ReceiptRecordTest, NumberFormatsRenderOrWithoutBracketsEndTheProgram) {
+    const struct {
+        QString format, number, expected;
+    } examples[] = {
+        {u"yy-[00]"_s, u"7"_s, u"13-07"_s},    {u"mmyy [0000]"_s, u"123"_s, u"1013 0123"_s},
+        {u"[00000]"_s, u"42"_s, u"00042"_s},   {u"[000]-yyyy"_s, u"1234"_s, u"1234-2013"_s},
+        {u"yy-[00]"_s, u"100"_s, u"13-100"_s}, {u"[00]]"_s, u"5"_s, u"05]"_s},
+        {u"[00000]"_s, u"-1"_s, u"-00001"_s},
+    };
+    for (const auto &example : examples) {
+        company().numberFormat = example.format;
+        EXPECT_EQ(modMain::formatReceiptNumber(example.number, QDate(2013, 10, 25)),
+                  example.expected);
+    }
+    EXPECT_TRUE(boxes().shown.isEmpty());
+
+    const QStringList formats = {u"00000"_s, u"yy-[00"_s, u"yy-]00["_s};
+    QStringList expected;
+    for (const QString &format : formats) {
+        company().numberFormat = format;
+        EXPECT_EQ(modMain::formatReceiptNumber(u"7"_s, QDate(2013, 10, 25)), QString());
+        expected.append(u"Error | Invalid receipt number format:  "_s + format +
+                        u".  This program can not continue | Critical"_s);
+    }
+    EXPECT_EQ(boxes().lines(), expected);
+    EXPECT_EQ(process().endProgramCalls, 3);
 }

@@ -1,13 +1,9 @@
 #include "receipttestbase.h"
 
+#include <QProcess>
+#include <numeric>
+
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-const QString kGiveUpText = u"Could not lock database to get next receipt number.  "
-                            "Giving up after three tries."_s;
-
-} // namespace
 
 using ReceiptNumberingTest = ReceiptTest;
 
@@ -33,10 +29,12 @@ TEST_F(ReceiptNumberingTest, YearRowsStoreTheNumberBeforeTheStart) {
               u"Receipt.createReceiptYear:  Type mismatch"_s);
 }
 
-// The save of a receipt takes its number and writes the receipt in one go.
-TEST_F(ReceiptNumberingTest, NumberingJoinsTheCallersTransaction) {
+// A local database never touches the share's lock; the save of a receipt
+// takes its number and writes the receipt in one go.
+TEST_F(ReceiptNumberingTest, LocalNumberingIgnoresTheLockAndJoinsTheCallersTransaction) {
     Receipt receipt;
     receipt.createReceiptYear(u"13"_s, u"1"_s);
+    session().shareFileLocation = databasePath();
     {
         db::Transaction transaction;
         EXPECT_EQ(receipt.getNextReceiptNumber(u"13"_s), 1);
@@ -44,6 +42,12 @@ TEST_F(ReceiptNumberingTest, NumberingJoinsTheCallersTransaction) {
         // Left without commit: the number goes back with everything else.
     }
     EXPECT_EQ(lastNumberUsed(u"13"_s), 0);
+    EXPECT_FALSE(QFile::exists(lockFile()));
+    QFile(lockFile()).open(QIODevice::WriteOnly);
+    EXPECT_EQ(receipt.getNextReceiptNumber(u"13"_s), 1);
+    EXPECT_TRUE(QFile::exists(lockFile())) << "a local database neither waits nor removes it";
+    ASSERT_TRUE(QFile::remove(lockFile()));
+    db::execute(u"UPDATE tblReceiptNumbering SET lastNumberUsed = 0"_s);
 
     shareDatabase();
     {
@@ -58,32 +62,9 @@ TEST_F(ReceiptNumberingTest, NumberingJoinsTheCallersTransaction) {
     EXPECT_FALSE(QFile::exists(lockFile()));
 }
 
-TEST_F(ReceiptNumberingTest, LocalDatabaseNeverTouchesTheLockFile) {
-    session().shareFileLocation = databasePath();
-    Receipt receipt;
-    receipt.createReceiptYear(u"13"_s, u"1"_s);
-    EXPECT_EQ(receipt.getNextReceiptNumber(u"13"_s), 1);
-    EXPECT_EQ(receipt.GetLastReceiptNumber(), 1);
-    EXPECT_FALSE(QFile::exists(lockFile()));
-
-    // A lock left on the share is no business of a local database: no wait, no removal.
-    QFile(lockFile()).open(QIODevice::WriteOnly);
-    EXPECT_EQ(receipt.getNextReceiptNumber(u"13"_s), 2);
-    EXPECT_TRUE(QFile::exists(lockFile()));
-}
-
-// A failure while the lock is held leaves it for the user to remove by hand.
-TEST_F(ReceiptNumberingTest, FailureAfterTakingTheLockLeavesIt) {
-    shareDatabase();
-    db::execute(u"DROP TABLE tblReceiptNumbering"_s);
-    const BriskoError error = errorOf([] { Receipt().getNextReceiptNumber(u"13"_s); });
-    EXPECT_EQ(error.description(),
-              u"Receipt.getNextReceiptNumber:  no such table: tblReceiptNumbering"_s);
-    EXPECT_TRUE(QFile::exists(lockFile()));
-}
-
-// The one test that waits out the lock: four looks in three seconds.
-TEST_F(ReceiptNumberingTest, LockLeftBehindMakesTheNextTakeGiveUp) {
+// The one test that waits out the lock: four looks in three seconds. A
+// failure while the lock is held leaves it for the user to remove by hand.
+TEST_F(ReceiptNumberingTest, LockLeftBehindMakesTheNextTakeGiveUpAndAFailureLeavesIt) {
     shareDatabase();
     Receipt receipt;
     receipt.createReceiptYear(u"13"_s, u"5"_s);
@@ -91,7 +72,42 @@ TEST_F(ReceiptNumberingTest, LockLeftBehindMakesTheNextTakeGiveUp) {
 
     const BriskoError error = errorOf([&] { receipt.getNextReceiptNumber(u"13"_s); });
     EXPECT_EQ(error.number(), -10001);
-    EXPECT_EQ(error.description(), u"Receipt.getNextReceiptNumber:  "_s + kGiveUpText);
+    EXPECT_EQ(error.description(),
+              u"Receipt.getNextReceiptNumber:  Could not lock database to get next receipt "
+              u"number.  Giving up after three tries."_s);
     EXPECT_EQ(lastNumberUsed(u"13"_s), 4);
+    ASSERT_TRUE(QFile::remove(lockFile()));
+
+    db::execute(u"DROP TABLE tblReceiptNumbering"_s);
+    EXPECT_EQ(errorOf([] { Receipt().getNextReceiptNumber(u"13"_s); }).description(),
+              u"Receipt.getNextReceiptNumber:  no such table: tblReceiptNumbering"_s);
     EXPECT_TRUE(QFile::exists(lockFile()));
+}
+
+// Four machines on one share take numbers at the same time: each number is
+// taken once, none is lost, and the counter ends at the total.
+TEST_F(ReceiptNumberingTest, ConcurrentTakersNeverShareANumber) {
+    constexpr int kTakers = 4;
+    constexpr int kEach = 15;
+    Receipt().createReceiptYear(u"13"_s, u"1"_s);
+
+    QProcess takers[kTakers];
+    for (QProcess &taker : takers)
+        taker.start(QString::fromUtf8(BRISKO_NUMBERTAKER),
+                    {databasePath(), u"13"_s, QString::number(kEach)});
+    QList<int> numbers, expected(kTakers * kEach);
+    for (QProcess &taker : takers) {
+        ASSERT_TRUE(taker.waitForFinished(120000));
+        EXPECT_EQ(taker.exitCode(), 0) << taker.readAllStandardError().toStdString();
+        const QStringList lines =
+            QString::fromUtf8(taker.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+        EXPECT_EQ(lines.size(), kEach);
+        for (const QString &line : lines)
+            numbers.append(line.toInt());
+    }
+    std::sort(numbers.begin(), numbers.end());
+    std::iota(expected.begin(), expected.end(), 1);
+    EXPECT_EQ(numbers, expected);
+    EXPECT_EQ(lastNumberUsed(u"13"_s), kTakers * kEach);
+    EXPECT_FALSE(QFile::exists(lockFile()));
 }

@@ -58,14 +58,15 @@ TEST_F(ReceiptQueriesTest, DateRangeEndsAtMidnightOfTheEndDay) {
               (QStringList{u"00007"_s, u"00006"_s, u"000050"_s}));
 }
 
-TEST_F(ReceiptQueriesTest, NameAndNumberFilters) {
+TEST_F(ReceiptQueriesTest, NameNumberOpeningAndCustomFieldFilters) {
     EXPECT_EQ(list(u"smith"_s), (QStringList{u"00003"_s, u"00004"_s, u"00006"_s}));
     EXPECT_EQ(list(u"O'Brien"_s), (QStringList{u"00007"_s, u"00005"_s, u"000050"_s}));
     EXPECT_EQ(list({}, u"00005"_s), (QStringList{u"00005"_s}));
     EXPECT_EQ(list(u"smith"_s, u"00005"_s), QStringList());
-}
+    EXPECT_FALSE(list(u"Goldsmith"_s).contains(u"Opening Balance"_s));
+    EXPECT_TRUE(list(u"Goldsmith"_s, {}, true).contains(u"Opening Balance"_s));
 
-TEST_F(ReceiptQueriesTest, CustomFieldTermsComeFromTheQueryingObject) {
+    // Custom field terms come from the querying object.
     terms.customField4 = u"blue"_s;
     EXPECT_EQ(list({}).size(), 6);
     useCustomFields = true;
@@ -74,12 +75,7 @@ TEST_F(ReceiptQueriesTest, CustomFieldTermsComeFromTheQueryingObject) {
     EXPECT_EQ(list({}), QStringList());
 }
 
-TEST_F(ReceiptQueriesTest, OpeningBalanceOnlyWhenAskedFor) {
-    EXPECT_FALSE(list(u"Goldsmith"_s).contains(u"Opening Balance"_s));
-    EXPECT_TRUE(list(u"Goldsmith"_s, {}, true).contains(u"Opening Balance"_s));
-}
-
-TEST_F(ReceiptQueriesTest, CustomerListIncludesOpeningBalanceAndRemovedPayee) {
+TEST_F(ReceiptQueriesTest, CustomerListAndLinesKeepWhatTheirKeysNoLongerFind) {
     EXPECT_EQ(numbers(terms.GetCustomerReceipts(goldsmith)),
               (QStringList{u"00003"_s, u"00004"_s, u"Opening Balance"_s, u"00006"_s}));
 
@@ -87,9 +83,7 @@ TEST_F(ReceiptQueriesTest, CustomerListIncludesOpeningBalanceAndRemovedPayee) {
     const db::Snapshot rows = terms.GetCustomerReceipts(brien);
     ASSERT_EQ(rows.size(), 3);
     EXPECT_TRUE(rows.at(0).isNull(u"payeeName"_s));
-}
 
-TEST_F(ReceiptQueriesTest, LinesKeepTheirSkuOrANullForADeletedProduct) {
     const qint64 kept = db::insertReturningKey(
         u"INSERT INTO tblProduct (productName, productSKU) VALUES ('Nails', 'N-1') "
         "RETURNING productID"_s);
